@@ -1,0 +1,58 @@
+#pragma once
+
+#include <memory>
+
+#include <QString>
+#include <QVariant>
+
+#include "ado/Connection.h"
+#include "ado/Field.h"
+
+namespace ado {
+
+enum class CursorType { ForwardOnly = 0, Keyset = 1 };
+enum class LockType { ReadOnly = 1, Optimistic = 3 };
+
+/// The rows of a query. Once open it holds no lock in the database: the rows are copied without their long
+/// binaries, and a long binary is fetched by its row's key when its value is asked for.
+///
+/// Every failure is an AdoError: a bad statement, a missing connection, a name that is no column, a row that
+/// is not there.
+class Recordset {
+ public:
+  Recordset();
+  ~Recordset();
+  Recordset(const Recordset&) = delete;
+  Recordset& operator=(const Recordset&) = delete;
+
+  /// Runs `source`, one SELECT, and stands on its first row. An optimistic keyset over one table can be
+  /// changed by AddNew, Update and Delete.
+  void Open(const QString& source, const std::shared_ptr<Connection>& connection,
+            CursorType cursor = CursorType::ForwardOnly, LockType lock = LockType::ReadOnly);
+  void Close();
+  [[nodiscard]] ObjectState State() const;
+
+  /// Whether the position is behind the last row (ADO's EOF; that name is a macro of C).
+  [[nodiscard]] bool IsEOF() const;
+  void MoveNext();
+
+  /// The column's field at the current row; names are compared without regard to letter case.
+  [[nodiscard]] Field& Fields(const QString& name);
+  /// The column's field by position, from 0.
+  [[nodiscard]] Field& Fields(int index);
+  [[nodiscard]] int FieldCount() const;
+
+  /// Begins a new row; its fields start as Null. Nothing reaches the database before Update.
+  void AddNew();
+  /// Writes the fields that were assigned since AddNew or since the row was reached.
+  void Update();
+  /// Deletes the current row, or gives up a row begun by AddNew.
+  void Delete();
+
+ private:
+  friend class Field;
+  class Rows;
+  std::unique_ptr<Rows> m_rows;
+};
+
+}  // namespace ado

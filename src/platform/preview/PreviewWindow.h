@@ -1,0 +1,27 @@
+#pragma once
+
+#include <memory>
+
+#include <QDialog>
+
+#include "report/Document.h"
+#include "report/Toolbar.h"
+
+namespace preview {
+
+/// Shows a laid-out report page by page, prints it and stores it as PDF. Pages are painted when they come
+/// into view, into a bounded cache. Control names: `toolbar`, `view`, `cmbZoom`, `txtPage`; a tool's action
+/// is found by its index.
+class PreviewWindow : public QDialog {
+  Q_OBJECT
+
+ public:
+  PreviewWindow(report::Document document, const report::Toolbar& toolbar, QWidget* parent = nullptr);
+  ~PreviewWindow() override;
+
+ private:
+  class Parts;
+  std::unique_ptr<Parts> m_parts;
+};
+
+}  // namespace preview

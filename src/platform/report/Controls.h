@@ -1,0 +1,47 @@
+#pragma once
+
+#include <vector>
+
+#include <QRect>
+#include <QString>
+
+#include "graphics/Fonts.h"
+#include "graphics/Picture.h"
+
+namespace report {
+
+enum class ControlKind { Label, Image, Shape, Barcode };
+
+/// What a label, an image, a rectangle or a barcode is by design. Positions and sizes are twips from the
+/// section's top left corner.
+struct Control {
+  ControlKind Kind = ControlKind::Label;
+  QString Name;
+  int Left = 0;
+  int Top = 0;
+  int Width = 0;
+  int Height = 0;
+  /// Text of a label; text that a barcode encodes.
+  QString Caption;
+  graphics::FontDescription Font;
+  /// Stored colour: red in the low byte, then green, then blue.
+  int ForeColor = 0;
+  Qt::Alignment Alignment = Qt::AlignLeft | Qt::AlignVCenter;
+  /// Whether a label is drawn with a hairline around it.
+  bool Border = false;
+  graphics::PicturePointer Picture;
+
+  [[nodiscard]] QRect rect() const { return {Left, Top, Width, Height}; }
+};
+
+/// A band of the report. `Height` is twips.
+struct Section {
+  QString Name;
+  int Height = 0;
+  std::vector<Control> Controls;
+
+  /// The control of that name. Throws runtime::RuntimeError when there is none.
+  [[nodiscard]] Control& control(const QString& name);
+};
+
+}  // namespace report

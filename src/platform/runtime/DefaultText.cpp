@@ -1,0 +1,27 @@
+#include "runtime/DefaultText.h"
+
+namespace runtime {
+
+QDateTime zeroDateTime() {
+  return QDateTime(QDate(1899, 12, 30), QTime(0, 0));
+}
+
+bool isZero(const QDateTime& moment) {
+  return moment.date() == QDate(1899, 12, 30) && moment.time() == QTime(0, 0);
+}
+
+QString dateText(const QDate& date) {
+  return date.toString(QStringLiteral("yyyy-MM-dd"));
+}
+
+QString dateTimeText(const QDateTime& moment) {
+  const QTime time(moment.time().hour(), moment.time().minute(), moment.time().second());
+  const QString date = dateText(moment.date());
+  return time == QTime(0, 0) ? date : date + u' ' + time.toString(QStringLiteral("HH:mm:ss"));
+}
+
+QString shortTimeText(const QTime& time) {
+  return time.toString(QStringLiteral("HH:mm"));
+}
+
+}  // namespace runtime

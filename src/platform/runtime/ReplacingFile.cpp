@@ -1,0 +1,60 @@
+#include "runtime/ReplacingFile.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <QFileInfo>
+
+#include "runtime/RuntimeError.h"
+
+namespace runtime {
+
+namespace {
+
+constexpr QFileDevice::Permissions anyWrite =
+    QFileDevice::WriteOwner | QFileDevice::WriteGroup | QFileDevice::WriteOther;
+
+[[noreturn]] void refuse(ErrorNumber number, const QString& path, const QString& why) {
+  throw RuntimeError(number, QStringLiteral("无法写入文件“%1”：%2").arg(path, why));
+}
+
+/// The new name is durable only when the directory that holds it is synced too.
+void syncDirectoryOf(const QString& path) {
+  const int directory =
+      ::open(QFileInfo(path).absolutePath().toLocal8Bit().constData(), O_RDONLY | O_DIRECTORY);
+  if (directory < 0) return;
+  ::fsync(directory);
+  ::close(directory);
+}
+
+}  // namespace
+
+ReplacingFile::ReplacingFile(const QString& path) : m_file(path) {
+  const QFileInfo target(path);
+  if (target.exists() && (target.permissions() & anyWrite) == 0) {
+    refuse(ErrorNumber::FileAccess, path, QStringLiteral("文件是只读的"));
+  }
+  const QFileInfo directory(target.absolutePath());
+  if (directory.exists() && (directory.permissions() & anyWrite) == 0) {
+    refuse(ErrorNumber::FileAccess, path, QStringLiteral("目录是只读的"));
+  }
+  if (!m_file.open(QIODevice::WriteOnly)) refuse(ErrorNumber::FileAccess, path, m_file.errorString());
+}
+
+void ReplacingFile::write(const QByteArray& bytes) {
+  if (m_file.write(bytes) != bytes.size())
+    refuse(ErrorNumber::FileIo, m_file.fileName(), m_file.errorString());
+}
+
+void ReplacingFile::commit() {
+  if (!m_file.commit()) refuse(ErrorNumber::FileIo, m_file.fileName(), m_file.errorString());
+  syncDirectoryOf(m_file.fileName());
+}
+
+void replaceFile(const QString& path, const QByteArray& bytes) {
+  ReplacingFile file(path);
+  file.write(bytes);
+  file.commit();
+}
+
+}  // namespace runtime
