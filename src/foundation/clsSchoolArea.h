@@ -8,6 +8,7 @@ class clsSchoolArea {
   /// Loads the name.
   clsSchoolArea();
 
+  /// Reads the name, empty when it is not set. Always true.
   bool LoadInfo();
   /// Stores the name; whether that succeeded.
   [[nodiscard]] bool SaveInfo() const;

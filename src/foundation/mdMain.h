@@ -3,6 +3,8 @@
 #include <functional>
 #include <memory>
 
+#include <QString>
+
 #include "foundation/MainForm.h"
 
 /// Makes the main window.
