@@ -31,6 +31,10 @@ class clsDept {
   /// Stores the name of a stored department.
   [[nodiscard]] bool UpdateToDb();
 
+  /// The error that ended the last of the operations above or the count of employees in it; empty when none
+  /// did.
+  [[nodiscard]] const QString& lastFailure() const { return m_lastFailure; }
+
  private:
   void CountEmployees();
 
@@ -38,4 +42,5 @@ class clsDept {
   QString m_name;
   QString m_password;
   std::int16_t m_employeeCount = 0;
+  QString m_lastFailure;
 };

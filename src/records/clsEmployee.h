@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QString>
 
+#include "runtime/DefaultText.h"
 #include "runtime/Random.h"
 
 /// One employee: a row of table Employee with the name of the department. Loading writes the photo to the
@@ -16,6 +17,8 @@ class clsEmployee {
   enum LoadResult : int { Found = 1, NotFound = 0, Failed = -1 };
 
   clsEmployee() = default;
+  /// An employee whose barcodes come from `random`.
+  explicit clsEmployee(const runtime::Random& random) : m_random(random) {}
   clsEmployee(const clsEmployee&) = delete;
   clsEmployee& operator=(const clsEmployee&) = delete;
   /// Deletes the file named by HeadImg.
@@ -55,13 +58,20 @@ class clsEmployee {
   /// 15 random decimal digits.
   [[nodiscard]] QString CreateRandomCode();
 
-  /// Why the last of the operations above failed; empty when it did not.
+  /// The error that ended the last of the operations above; empty when none did.
   [[nodiscard]] const QString& lastFailure() const { return m_lastFailure; }
 
  private:
+  /// What an employee is loaded by.
+  enum class Key { Number, Barcode };
+
+  void write() const;
+  [[nodiscard]] int load(const QString& condition, Key key);
+  [[nodiscard]] QString unusedCode();
+
   QString m_dname;
   QString m_enumber;
-  QDateTime m_enterDate;
+  QDateTime m_enterDate = runtime::zeroDateTime();
   QString m_headImg;
   std::int16_t m_did = 0;
   QString m_ename;

@@ -1,0 +1,46 @@
+#include "records/PhotoFile.h"
+
+#include "ado/Stream.h"
+#include "runtime/Conversions.h"
+#include "runtime/ProgramDirectory.h"
+#include "runtime/RuntimeError.h"
+
+namespace {
+
+QString cannotWrite(const QString& number, const QString& why) {
+  return QStringLiteral("编号为[%1]的员工的照片无法写入：%2").arg(number, why);
+}
+
+void save(const QVariant& image, const QString& path) {
+  ado::Stream stream;
+  stream.Mode = ado::ConnectMode::ReadWrite;
+  stream.Type = ado::StreamType::Binary;
+  stream.Open();
+  stream.Write(image);
+  stream.SaveToFile(path, ado::SaveOptions::CreateOverWrite);
+  stream.Close();
+}
+
+}  // namespace
+
+QString photoFile(const QString& number) {
+  if (!runtime::isPlainFileName(number)) {
+    throw runtime::RuntimeError(runtime::ErrorNumber::FileAccess,
+                                cannotWrite(number, QStringLiteral("编号不能用作文件名")));
+  }
+  return runtime::appFile(number + QStringLiteral(".jpg"));
+}
+
+QString writePhotoFile(const QString& number, const QVariant& image) {
+  QString path = photoFile(number);
+  try {
+    save(image, path);
+  } catch (const runtime::RuntimeError& error) {
+    const QString& why = error.description();
+    throw runtime::RuntimeError(error.number(),
+                                runtime::isNull(image)
+                                    ? QStringLiteral("编号为[%1]的员工没有照片：%2").arg(number, why)
+                                    : cannotWrite(number, why));
+  }
+  return path;
+}

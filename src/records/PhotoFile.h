@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+#include <QVariant>
+
+/// Path of the photo file of the employee with that number, in the program directory. Throws
+/// runtime::RuntimeError naming the employee when the number is no plain file name.
+[[nodiscard]] QString photoFile(const QString& number);
+
+/// Writes `image`, the value of an employee's photo column, over the employee's photo file and returns its
+/// path. Throws runtime::RuntimeError naming the employee: a number that is no plain file name, no photo
+/// (Null), a file that cannot be written in full; the last leaves no half-written file.
+QString writePhotoFile(const QString& number, const QVariant& image);
