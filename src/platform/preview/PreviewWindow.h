@@ -9,6 +9,8 @@
 
 namespace preview {
 
+class Printers;
+
 /// Shows a laid-out report page by page, prints it and stores it as PDF. Pages are painted when they come
 /// into view, into a bounded cache. Control names: `toolbar`, `view`, `cmbZoom`, `txtPage`; a tool's action
 /// is found by its index.
@@ -17,6 +19,9 @@ class PreviewWindow : public QDialog {
 
  public:
   PreviewWindow(report::Document document, const report::Toolbar& toolbar, QWidget* parent = nullptr);
+  /// With other printers than the system's.
+  PreviewWindow(report::Document document, const report::Toolbar& toolbar, std::unique_ptr<Printers> printers,
+                QWidget* parent = nullptr);
   ~PreviewWindow() override;
 
  private:

@@ -1,0 +1,93 @@
+#include "preview/PreviewToolbar.h"
+
+#include <algorithm>
+#include <array>
+
+#include <QRegularExpression>
+#include <QToolButton>
+
+#include "preview/ToolIcon.h"
+
+namespace preview {
+
+namespace {
+
+constexpr std::array separators{1, 3, 5, 7, 10, 14, 18};
+constexpr int iconSide = 22;
+
+}  // namespace
+
+PreviewToolbar::PreviewToolbar(const report::Toolbar& texts, QWidget* parent) : QToolBar(parent) {
+  setObjectName(QStringLiteral("toolbar"));
+  setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  setIconSize({iconSide, iconSide});
+  for (int index = 0; index < report::Toolbar::toolCount; ++index) {
+    if (std::find(separators.begin(), separators.end(), index) != separators.end()) {
+      addSeparator();
+    } else if (index == ZoomBox) {
+      addZoomBox();
+    } else if (index == PageBox) {
+      addPageBox();
+    } else {
+      addTool(index, texts.Tools.at(index));
+    }
+  }
+  addTool(SavePdf, {QStringLiteral("存为PDF"), QStringLiteral("存为PDF")});
+}
+
+void PreviewToolbar::addTool(int index, const report::Tool& texts) {
+  QAction* action = addAction(toolIcon(index), texts.Tooltip);
+  // A caption set as text would lose its dots on the button.
+  if (!texts.Caption.isEmpty()) action->setIconText(texts.Caption);
+  action->setToolTip(texts.Tooltip);
+  action->setEnabled(false);
+  if (!texts.Caption.isEmpty()) return;
+  if (auto* button = qobject_cast<QToolButton*>(widgetForAction(action))) {
+    button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+  }
+}
+
+void PreviewToolbar::addZoomBox() {
+  m_zoom = new QComboBox(this);
+  m_zoom->setObjectName(QStringLiteral("cmbZoom"));
+  m_zoom->setToolTip(QStringLiteral("显示比例"));
+  m_zoom->setAccessibleName(QStringLiteral("显示比例"));
+  m_zoom->setMaxVisibleItems(static_cast<int>(zoomList().size()));
+  // Rolling the wheel over the box on the way to the pages must not change the zoom.
+  m_zoom->setFocusPolicy(Qt::TabFocus);
+  for (const Zoom& zoom : zoomList()) m_zoom->addItem(zoomText(zoom));
+  connect(m_zoom, &QComboBox::activated, this, [this](int index) { emit zoomChosen(zoomList().at(index)); });
+  addWidget(m_zoom)->setEnabled(false);
+}
+
+void PreviewToolbar::addPageBox() {
+  m_page = new QLineEdit(this);
+  m_page->setObjectName(QStringLiteral("txtPage"));
+  m_page->setToolTip(QStringLiteral("页码，按回车键转到该页"));
+  m_page->setAccessibleName(QStringLiteral("页码"));
+  m_page->setAlignment(Qt::AlignCenter);
+  m_page->setFixedWidth(m_page->fontMetrics().horizontalAdvance(QStringLiteral("00000 / 00000")));
+  connect(m_page, &QLineEdit::returnPressed, this, [this] { emit pageEntered(m_page->text()); });
+  addWidget(m_page)->setEnabled(false);
+}
+
+void PreviewToolbar::setToolEnabled(Place place, bool enabled) {
+  tool(place)->setEnabled(enabled);
+}
+
+void PreviewToolbar::showZoom(const Zoom& zoom) {
+  m_zoom->setCurrentIndex(m_zoom->findText(zoomText(zoom)));
+}
+
+void PreviewToolbar::showPage(int current, int count) {
+  m_page->setText(QStringLiteral("%1 / %2").arg(count == 0 ? 0 : current + 1).arg(count));
+}
+
+int pageOfText(const QString& text, int pageCount) {
+  static const QRegularExpression number(QStringLiteral("^\\s*(\\d{1,9})\\s*(?:/.*)?$"));
+  const auto match = number.match(text.normalized(QString::NormalizationForm_KC));
+  if (!match.hasMatch() || pageCount == 0) return -1;
+  return std::clamp(match.captured(1).toInt(), 1, pageCount) - 1;
+}
+
+}  // namespace preview
