@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <QFile>
 #include <QFileInfo>
 
 #include "runtime/RuntimeError.h"
@@ -18,10 +19,15 @@ constexpr QFileDevice::Permissions anyWrite =
   throw RuntimeError(number, QStringLiteral("无法写入文件“%1”：%2").arg(path, why));
 }
 
+/// The directory that holds the file, behind a symbolic link the one that holds its target.
+QString directoryOf(const QString& path) {
+  const QFileInfo file(path);
+  return file.exists() ? QFileInfo(file.canonicalFilePath()).path() : file.absolutePath();
+}
+
 /// The new name is durable only when the directory that holds it is synced too.
 void syncDirectoryOf(const QString& path) {
-  const int directory =
-      ::open(QFileInfo(path).absolutePath().toLocal8Bit().constData(), O_RDONLY | O_DIRECTORY);
+  const int directory = ::open(QFile::encodeName(directoryOf(path)).constData(), O_RDONLY | O_DIRECTORY);
   if (directory < 0) return;
   ::fsync(directory);
   ::close(directory);
@@ -34,7 +40,7 @@ ReplacingFile::ReplacingFile(const QString& path) : m_file(path) {
   if (target.exists() && (target.permissions() & anyWrite) == 0) {
     refuse(ErrorNumber::FileAccess, path, QStringLiteral("文件是只读的"));
   }
-  const QFileInfo directory(target.absolutePath());
+  const QFileInfo directory(directoryOf(path));
   if (directory.exists() && (directory.permissions() & anyWrite) == 0) {
     refuse(ErrorNumber::FileAccess, path, QStringLiteral("目录是只读的"));
   }
@@ -47,6 +53,11 @@ void ReplacingFile::write(const QByteArray& bytes) {
 }
 
 void ReplacingFile::commit() {
+  // The rename must not come before the content is on the disk; QSaveFile syncs too, but takes a failure for
+  // success.
+  if (!m_file.flush() || ::fsync(m_file.handle()) != 0) {
+    refuse(ErrorNumber::FileIo, m_file.fileName(), QStringLiteral("内容没有写到磁盘上"));
+  }
   if (!m_file.commit()) refuse(ErrorNumber::FileIo, m_file.fileName(), m_file.errorString());
   syncDirectoryOf(m_file.fileName());
 }

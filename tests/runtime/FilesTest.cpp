@@ -1,0 +1,117 @@
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "runtime/ProgramDirectory.h"
+#include "runtime/ReplacingFile.h"
+#include "runtime/RuntimeError.h"
+#include "support/FullDisk.h"
+#include "support/Thrown.h"
+
+namespace {
+
+using runtime::ErrorNumber;
+
+class ReplacingFile : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    QFile file(m_path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_EQ(file.write("old"), 3);
+  }
+
+  [[nodiscard]] QByteArray content() const {
+    QFile file(m_path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<no file>");
+  }
+
+  /// Nothing that was written aside lies about.
+  [[nodiscard]] bool isAlone() const {
+    return QDir(m_directory.path()).entryList(QDir::Files | QDir::Hidden) ==
+           QStringList(QStringLiteral("kept"));
+  }
+
+  void allow(mode_t mode, const QString& path) const {
+    ASSERT_EQ(::chmod(QFile::encodeName(path).constData(), mode), 0);
+  }
+
+  QTemporaryDir m_directory;
+  QString m_path = m_directory.filePath(QStringLiteral("kept"));
+};
+
+TEST_F(ReplacingFile, ReplacesOnlyWhenCommitted) {
+  {
+    runtime::ReplacingFile file(m_path);
+    file.write("given up");
+    EXPECT_EQ(content(), "old");
+  }
+  EXPECT_EQ(content(), "old");
+  EXPECT_TRUE(isAlone());
+  runtime::replaceFile(m_path, "new");
+  EXPECT_EQ(content(), "new");
+  EXPECT_TRUE(isAlone());
+}
+
+TEST_F(ReplacingFile, RefusesAReadOnlyTargetForEveryUser) {
+  allow(0444, m_path);
+  const auto error = support::thrown([this] { runtime::replaceFile(m_path, "new"); });
+  EXPECT_EQ(error.number(), static_cast<int>(ErrorNumber::FileAccess));
+  EXPECT_TRUE(error.description().contains(m_path));
+  EXPECT_EQ(content(), "old");
+}
+
+TEST_F(ReplacingFile, RefusesAReadOnlyDirectoryAlsoBehindALink) {
+  const QTemporaryDir elsewhere;
+  const QString link = elsewhere.filePath(QStringLiteral("link"));
+  ASSERT_TRUE(QFile::link(m_path, link));
+  allow(0555, m_directory.path());
+  for (const QString& path : {m_path, m_directory.filePath(QStringLiteral("new")), link}) {
+    EXPECT_EQ(support::thrownNumber([&] { runtime::replaceFile(path, "new"); }), ErrorNumber::FileAccess);
+  }
+  allow(0755, m_directory.path());
+  EXPECT_EQ(content(), "old");
+  runtime::replaceFile(link, "new");
+  EXPECT_EQ(content(), "new") << "the target is written, the link stays";
+  EXPECT_TRUE(QFileInfo(link).isSymLink());
+}
+
+TEST_F(ReplacingFile, KeepsTheOldFileOnAFullDisk) {
+  const support::FullDisk disk(1000);
+  EXPECT_EQ(support::thrownNumber([this] { runtime::replaceFile(m_path, QByteArray(100000, 'x')); }),
+            ErrorNumber::FileIo);
+  EXPECT_EQ(content(), "old");
+  EXPECT_TRUE(isAlone());
+}
+
+TEST_F(ReplacingFile, RefusesADirectoryAsTarget) {
+  EXPECT_EQ(support::thrownNumber([this] { runtime::replaceFile(m_directory.path(), "new"); }),
+            ErrorNumber::FileAccess);
+}
+
+TEST(ProgramDirectory, IsChosenByArgumentThenEnvironmentThenExecutable) {
+  qputenv("ATTENDANCE_HOME", "/from/environment/");
+  runtime::chooseAppPath(QStringLiteral("/from/../argument/"));
+  EXPECT_EQ(runtime::appFile(QStringLiteral("x")), QStringLiteral("/argument/x"));
+  runtime::chooseAppPath({});
+  EXPECT_EQ(runtime::AppPath(), QStringLiteral("/from/environment"));
+  qunsetenv("ATTENDANCE_HOME");
+  runtime::chooseAppPath({});
+  EXPECT_EQ(runtime::AppPath(), QString::fromUtf8(PROGRAM_DIR));
+}
+
+TEST(ProgramDirectory, PlainNamesStayInTheirDirectory) {
+  const QString nul = QStringLiteral("a") + QChar(u'\0');
+  for (const QString& name : {QString(), QStringLiteral("."), QStringLiteral(".."), QStringLiteral("../x"),
+                              QStringLiteral("a/b"), QStringLiteral("a\\b"), nul, QString(84, u'工')}) {
+    EXPECT_FALSE(runtime::isPlainFileName(name)) << name.toStdString();
+  }
+  for (const QString& name :
+       {QStringLiteral("A001"), QStringLiteral("..x"), QStringLiteral("张 三"), QString(250, u'x')}) {
+    EXPECT_TRUE(runtime::isPlainFileName(name)) << name.toStdString();
+  }
+}
+
+}  // namespace
