@@ -1,10 +1,13 @@
 #pragma once
 
+#include <optional>
+
 #include <QMargins>
 #include <QSize>
 
 #include "report/Controls.h"
 #include "report/Document.h"
+#include "report/DocumentData.h"
 #include "report/Toolbar.h"
 
 namespace report {
@@ -19,7 +22,8 @@ class ActiveReport {
   virtual ~ActiveReport() = default;
 
   /// Lays the report out. The document keeps nothing of the report. Reports progress a band. What an event
-  /// throws reaches the caller.
+  /// throws reaches the caller. Every run starts from the controls as they were before the first one, and
+  /// every band from what ReportStart left; afterwards the controls hold the values of the last band.
   [[nodiscard]] Document run();
 
   Section PageHeader;
@@ -39,6 +43,18 @@ class ActiveReport {
   virtual void ActiveReport_FetchData(bool& endOfData) = 0;
   /// How many bands are expected, for the progress; 0 when not known.
   [[nodiscard]] virtual int expectedBands() const { return 0; }
+
+ private:
+  struct Design {
+    Section PageHeader;
+    Section Detail;
+    Section PageFooter;
+  };
+
+  void restoreDesign();
+  [[nodiscard]] std::vector<Band> fetchBands();
+
+  std::optional<Design> m_design;
 };
 
 }  // namespace report

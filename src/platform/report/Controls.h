@@ -32,6 +32,7 @@ struct Control {
   graphics::PicturePointer Picture;
 
   [[nodiscard]] QRect rect() const { return {Left, Top, Width, Height}; }
+  bool operator==(const Control&) const = default;
 };
 
 /// A band of the report. `Height` is twips.

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <memory>
+#include <variant>
+#include <vector>
+
+#include <QPoint>
+#include <QSize>
+#include <QString>
+
+#include "report/Controls.h"
+
+namespace report {
+
+/// What one band changed on one control of its template: the caption or the picture alone, which is the
+/// usual case, or the control as a whole.
+struct Change {
+  std::size_t control = 0;
+  std::variant<QString, graphics::PicturePointer, std::shared_ptr<const Control>> value;
+};
+
+struct Band {
+  /// Twips.
+  int height = 0;
+  /// In the order of the template's controls.
+  std::vector<Change> changes;
+};
+
+/// The changes that turn `design` into `filled`. Throws runtime::RuntimeError when the two have not the same
+/// controls.
+[[nodiscard]] Band captureBand(const Section& design, const Section& filled);
+/// The control of `design` at `index` with the changes of `band` from `next` on applied; moves `next` on.
+[[nodiscard]] Control applyBand(const Section& design, std::size_t index, const Band& band,
+                                std::size_t& next);
+
+struct PlacedBand {
+  std::size_t band = 0;
+  /// Twips from the paper's top edge.
+  int top = 0;
+};
+
+using PageLayout = std::vector<PlacedBand>;
+
+/// What a Document shares among its copies: templates, values and where the bands stand.
+class DocumentData {
+ public:
+  QString title;
+  QSize paperSize;
+  int left = 0;
+  int headerTop = 0;
+  int footerTop = 0;
+  Section header;
+  Section detail;
+  Section footer;
+  std::vector<Band> bands;
+  /// At least one: a report without data still has its header and footer.
+  std::vector<PageLayout> pages;
+};
+
+/// Breaks bands into pages between `top` and `bottom`. A band that is higher than a page stands alone.
+[[nodiscard]] std::vector<PageLayout> breakIntoPages(const std::vector<Band>& bands, int top, int bottom);
+
+}  // namespace report

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QBuffer>
+#include <QColor>
+#include <QImage>
+
+/// A picture of one colour with a dark left half, in the file format named.
+inline QByteArray pictureBytes(const char* format, QSize size, QColor color = Qt::red, bool gray = false) {
+  QImage image(size, QImage::Format_RGB32);
+  image.fill(color);
+  for (int y = 0; y < size.height(); ++y) {
+    for (int x = 0; x < size.width() / 2; ++x) image.setPixelColor(x, y, color.darker(400));
+  }
+  if (gray) image = image.convertToFormat(QImage::Format_Grayscale8);
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  image.save(&buffer, format);
+  return bytes;
+}
+
+/// `jpeg` with a camera's note that the picture is to be turned by `orientation`.
+inline QByteArray withOrientation(const QByteArray& jpeg, char orientation, bool littleEndian = true) {
+  QByteArray tags = littleEndian ? QByteArray("II*\0\x08\0\0\0\x01\0\x12\x01\x03\0\x01\0\0\0", 18)
+                                 : QByteArray("MM\0*\0\0\0\x08\0\x01\x01\x12\0\x03\0\0\0\x01", 18);
+  tags += littleEndian ? QByteArray(1, orientation) + QByteArray(7, '\0')
+                       : QByteArray(1, '\0') + QByteArray(1, orientation) + QByteArray(6, '\0');
+  const QByteArray segment = QByteArray("Exif\0\0", 6) + tags;
+  const auto length = static_cast<char>(segment.size() + 2);
+  return jpeg.left(2) + QByteArray("\xFF\xE1\0", 3) + QByteArray(1, length) + segment + jpeg.mid(2);
+}

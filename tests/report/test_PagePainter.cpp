@@ -1,0 +1,115 @@
+#include <gtest/gtest.h>
+
+#include "../graphics/PictureBytes.h"
+#include "SmallReport.h"
+#include "graphics/Twips.h"
+#include "report/PagePainter.h"
+
+namespace {
+
+constexpr double dotsPerInch = 144;
+
+/// The only page of a report with these controls, painted at 144 dots an inch: 10 twips a pixel.
+QImage paint(const std::vector<report::Control>& controls) {
+  SmallReport small;
+  small.bandCount = 1;
+  small.Margins = {0, 0, 0, 0};
+  small.PaperSize = {3000, 2000};
+  small.Detail.Controls = controls;
+  small.fill = [](SmallReport&, int) {};
+  QImage image(300, 200, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  painter.scale(dotsPerInch / graphics::twipsPerInch, dotsPerInch / graphics::twipsPerInch);
+  const QTransform before = painter.transform();
+  report::DecodingPictureSource pictures;
+  report::paintPage(painter, small.run(), 0, pictures);
+  EXPECT_EQ(painter.transform(), before);
+  EXPECT_FALSE(painter.testRenderHint(QPainter::Antialiasing));
+  return image;
+}
+
+/// The smallest rectangle of pixels that are not white.
+QRect inked(const QImage& image) {
+  QRect ink;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      if (qGray(image.pixel(x, y)) < 200) ink |= QRect(x, y, 1, 1);
+    }
+  }
+  return ink;
+}
+
+report::Control textControl(Qt::Alignment alignment) {
+  auto control = SmallReport::label(QStringLiteral("lbl"), {1000, 500, 1000, 400}, QStringLiteral("国"));
+  control.Alignment = alignment;
+  return control;
+}
+
+report::Control picture(const char* format, QSize size, const QRect& box) {
+  auto control = SmallReport::label(QStringLiteral("img"), box);
+  control.Kind = report::ControlKind::Image;
+  control.Picture =
+      std::make_shared<const graphics::Picture>(pictureBytes(format, size), QStringLiteral("x"));
+  return control;
+}
+
+}  // namespace
+
+TEST(PagePainter, TextsStandInTheirBoxesByAlignment) {
+  const QRect left = inked(paint({textControl(Qt::AlignLeft | Qt::AlignVCenter)}));
+  const QRect middle = inked(paint({textControl(Qt::AlignHCenter | Qt::AlignVCenter)}));
+  const QRect right = inked(paint({textControl(Qt::AlignRight | Qt::AlignBottom)}));
+  const QRect box(100, 50, 100, 40);
+  EXPECT_TRUE(box.contains(left) && box.contains(middle)) << left.left() << " " << middle.left();
+  EXPECT_LT(left.left(), 104);
+  EXPECT_NEAR(middle.center().x(), 150, 2);
+  EXPECT_NEAR(middle.center().y(), 70, 3);
+  EXPECT_GT(right.right(), 195);
+  EXPECT_GT(right.center().y(), middle.center().y() + 5);
+}
+
+TEST(PagePainter, TextsTakeTheirColour) {
+  auto control = textControl(Qt::AlignLeft);
+  control.ForeColor = 0x0000FF;
+  control.Caption = QStringLiteral("■");
+  control.Font.size = 20;
+  const QImage image = paint({control});
+  const QPoint ink = inked(image).center();
+  EXPECT_GT(qRed(image.pixel(ink)), 200);
+  EXPECT_LT(qBlue(image.pixel(ink)), 100);
+}
+
+TEST(PagePainter, PicturesAreDrawnIntoTheirBoxes) {
+  const QImage image = paint({picture("jpg", {40, 80}, {500, 500, 1000, 1000})});
+  EXPECT_EQ(image.pixelColor(60, 100), QColor(Qt::white));
+  EXPECT_GT(image.pixelColor(115, 100).red(), 200);
+  EXPECT_LT(image.pixelColor(85, 100).red(), 100);
+}
+
+TEST(PagePainter, WhatCannotBeDecodedIsAnEmptyFrame) {
+  auto damaged = picture("png", {400, 400}, {500, 500, 1000, 1000});
+  const QByteArray bytes = damaged.Picture->bytes();
+  damaged.Picture =
+      std::make_shared<const graphics::Picture>(bytes.left(bytes.size() / 2), QStringLiteral("x"));
+  for (const auto& shown : {damaged.Picture, graphics::PicturePointer()}) {
+    damaged.Picture = shown;
+    const QImage image = paint({damaged});
+    const QRect frame = inked(image);
+    EXPECT_NEAR(frame.width(), 100, 2);
+    EXPECT_EQ(image.pixelColor(frame.center()), QColor(Qt::white));
+  }
+}
+
+TEST(DecodingPictureSource, KeepsImagesBySizeAndWithinItsBound) {
+  const auto first =
+      std::make_shared<const graphics::Picture>(pictureBytes("jpg", {640, 480}), QStringLiteral("x"));
+  const auto second =
+      std::make_shared<const graphics::Picture>(pictureBytes("jpg", {640, 480}), QStringLiteral("x"));
+  report::DecodingPictureSource pictures(128 * 96 * 4 * 3 / 2);
+  const qint64 key = pictures.image(first, {120, 90}).cacheKey();
+  EXPECT_EQ(pictures.image(first, {128, 80}).cacheKey(), key);
+  EXPECT_EQ(pictures.image(first, {120, 90}).size(), QSize(128, 96));
+  EXPECT_GE(pictures.image(second, {120, 90}).width(), 128);
+  EXPECT_NE(pictures.image(first, {120, 90}).cacheKey(), key) << "the bound holds one image";
+}
