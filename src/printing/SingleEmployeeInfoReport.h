@@ -14,8 +14,9 @@ class SingleEmployeeInfoReport : public report::ActiveReport {
 
   /// Hands in the employees and starts the count anew. An empty pointer lets go of the ones before.
   void SetEmployeeSet(std::shared_ptr<clsEmployeeSet> employees);
-  /// Of the last run: one line an employee whose photo could not be read, with the number and the reason. The
-  /// card then has an empty frame.
+  /// Of the last run: one line an employee whose photo could not be read, with the number and the reason; the
+  /// card then has an empty frame. A line too when the logo that the settings name could not be read; the
+  /// cards then have the default one.
   [[nodiscard]] const QStringList& photoFailures() const { return m_photoFailures; }
 
  protected:
@@ -25,8 +26,10 @@ class SingleEmployeeInfoReport : public report::ActiveReport {
 
  private:
   void ApplyCardStyles();
+  void LoadLogo();
+  [[nodiscard]] graphics::PicturePointer LoadPhoto(const clsEmployee& employee);
 
   std::shared_ptr<clsEmployeeSet> m_employees;
-  std::int16_t m_fetched = 0;
+  int m_fetched = 0;
   QStringList m_photoFailures;
 };
