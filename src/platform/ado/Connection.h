@@ -38,11 +38,12 @@ class Connection {
   void CommitTrans();
   void RollbackTrans();
 
-  /// Writes a consistent copy of the database, with the same password, to `fileName`, which must not exist,
-  /// while other processes may go on working with the file. The copy is synced.
+  /// Writes a consistent copy of what is committed, with the same password, to `fileName`, which must not
+  /// exist, while other processes may go on working with the file. The copy is synced; after a failure no
+  /// file is left.
   void CopyTo(const QString& fileName);
-  /// Reads every page of the file and checks structure and content. Empty when all is well, else one line a
-  /// finding, in the engine's words.
+  /// Reads every page in use from the disk and checks the file's structure. Empty when all is well, else one
+  /// line a finding, in the engine's words.
   [[nodiscard]] QStringList CheckPages();
 
   /// The engine underneath, for the classes of this room. Throws AdoError when the connection is not open.

@@ -29,11 +29,13 @@ class Recordset {
   /// changed by AddNew, Update and Delete.
   void Open(const QString& source, const std::shared_ptr<Connection>& connection,
             CursorType cursor = CursorType::ForwardOnly, LockType lock = LockType::ReadOnly);
+  /// Gives up what was assigned and not written. Does nothing on a closed recordset.
   void Close();
   [[nodiscard]] ObjectState State() const;
 
   /// Whether the position is behind the last row (ADO's EOF; that name is a macro of C).
   [[nodiscard]] bool IsEOF() const;
+  /// Writes what was assigned to the row, as Update does, and goes to the next one.
   void MoveNext();
 
   /// The column's field at the current row; names are compared without regard to letter case.
@@ -44,14 +46,19 @@ class Recordset {
 
   /// Begins a new row; its fields start as Null. Nothing reaches the database before Update.
   void AddNew();
-  /// Writes the fields that were assigned since AddNew or since the row was reached.
+  /// Writes the fields that were assigned since AddNew or since the row was reached; the row stays the
+  /// current one, with the key that the database gave it. A row that is gone is NoCurrentRecord.
   void Update();
-  /// Deletes the current row, or gives up a row begun by AddNew.
+  /// Deletes the current row, which has no values from then on, or gives up a row begun by AddNew and
+  /// returns to the row before it.
   void Delete();
 
  private:
   friend class Field;
   class Rows;
+  /// Throws AdoError when the recordset is closed.
+  [[nodiscard]] Rows& rows() const;
+
   std::unique_ptr<Rows> m_rows;
 };
 

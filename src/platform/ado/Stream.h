@@ -13,8 +13,9 @@ enum class ConnectMode { Unknown = 0, ReadWrite = 3 };
 enum class SaveOptions { CreateNotExist = 1, CreateOverWrite = 2 };
 enum class StreamRead { All = -1 };
 
-/// Bytes in memory, on their way between a field and a file. Failures are runtime::RuntimeError: FileNotFound
-/// or FileIo naming the file, InvalidUseOfNull, AdoError when the stream is not open.
+/// Bytes in memory, on their way between a field and a file. Failures are runtime::RuntimeError:
+/// FileNotFound, FileAccess or FileIo naming the file, InvalidUseOfNull, TypeMismatch for what is no bytes,
+/// AdoError when the stream is not open.
 class Stream {
  public:
   StreamType Type = StreamType::Binary;

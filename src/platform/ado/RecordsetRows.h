@@ -1,0 +1,61 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "ado/Query.h"
+#include "ado/Recordset.h"
+
+namespace ado {
+
+/// What an open recordset holds: the copied rows, the position and what was assigned and not yet written.
+class Recordset::Rows {
+ public:
+  Rows(Recordset& owner, const QString& source, std::shared_ptr<Connection> connection, bool changeable);
+
+  [[nodiscard]] bool atEnd() const { return !m_adding && m_current >= m_rowCount; }
+  void moveNext();
+
+  [[nodiscard]] Field& field(const QString& name);
+  [[nodiscard]] Field& field(int index);
+  [[nodiscard]] int fieldCount() const { return static_cast<int>(m_fields.size()); }
+
+  [[nodiscard]] QVariant value(int column);
+  void assign(int column, const QVariant& value);
+
+  void addNew();
+  void update();
+  void remove();
+
+ private:
+  void load();
+  void nameExpressions();
+  [[nodiscard]] std::shared_ptr<store::Database> database() const;
+  [[nodiscard]] QVariant& cell(int column);
+  [[nodiscard]] QVariant key(int column);
+  [[nodiscard]] QVariant fetch(int column);
+  void requireRow() const;
+  void requireChangeable() const;
+  void insertRow();
+  void changeRow();
+  void keepAssigned();
+
+  Recordset& m_owner;
+  std::shared_ptr<Connection> m_connection;
+  /// Weak: closing the connection closes the file, whatever recordsets are still open.
+  std::weak_ptr<store::Database> m_database;
+  bool m_changeable;
+  Query m_query;
+  std::vector<Field> m_fields;
+
+  /// Row after row, in stored form; a long binary that is left in the database is a null pointer.
+  std::vector<QVariant> m_values;
+  std::size_t m_rowCount = 0;
+  std::size_t m_current = 0;
+  std::vector<bool> m_deleted;
+  bool m_adding = false;
+  std::map<int, QVariant> m_assigned;
+};
+
+}  // namespace ado

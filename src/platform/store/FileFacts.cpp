@@ -1,0 +1,56 @@
+#include "store/FileFacts.h"
+
+#include <cerrno>
+#include <cstring>
+#include <sys/stat.h>
+
+#include <QFile>
+#include <QFileInfo>
+
+#include "store/StoreError.h"
+
+namespace store {
+
+namespace {
+
+constexpr mode_t anyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
+
+[[noreturn]] void cannotOpen(const QString& description) {
+  throw StoreError(static_cast<int>(StoreCode::CannotOpen), description);
+}
+
+bool hasNoWriteBit(const QString& path) {
+  struct stat facts {};
+  return ::stat(QFile::encodeName(path).constData(), &facts) == 0 && (facts.st_mode & anyWrite) == 0;
+}
+
+}  // namespace
+
+bool fileExists(const QString& path) {
+  struct stat facts {};
+  return ::lstat(QFile::encodeName(path).constData(), &facts) == 0;
+}
+
+bool fileIsReadOnly(const QString& path) {
+  return hasNoWriteBit(path);
+}
+
+bool directoryIsReadOnly(const QString& path) {
+  return hasNoWriteBit(QFileInfo(path).absolutePath());
+}
+
+void requireDatabaseFile(const QString& path) {
+  struct stat facts {};
+  if (path.contains(QChar(u'\0')) || ::stat(QFile::encodeName(path).constData(), &facts) != 0) {
+    if (errno == EACCES) {
+      cannotOpen(QStringLiteral("没有权限访问数据库文件“%1”：%2")
+                     .arg(path, QString::fromLocal8Bit(std::strerror(errno))));
+    }
+    cannotOpen(QStringLiteral("找不到数据库文件“%1”").arg(path));
+  }
+  if (S_ISDIR(facts.st_mode)) cannotOpen(QStringLiteral("“%1”是一个目录，不是数据库文件").arg(path));
+  if (!S_ISREG(facts.st_mode)) cannotOpen(QStringLiteral("“%1”不是普通文件，不能作为数据库打开").arg(path));
+  if (facts.st_size == 0) cannotOpen(QStringLiteral("数据库文件“%1”是空的").arg(path));
+}
+
+}  // namespace store
