@@ -1,5 +1,7 @@
 #include "preview/DocumentOutput.h"
 
+#include <tuple>
+
 #include <QGuiApplication>
 #include <QProgressDialog>
 #include <QRegularExpression>
@@ -72,7 +74,7 @@ void DocumentOutput::runJob(QPrinter& printer, const std::vector<int>& pages) {
   const int sheets = static_cast<int>(pages.size());
   if (sheets <= quietSheets) {
     const WaitCursor wait;
-    printPages(printer, m_document, pages, [](int, int) { return true; });
+    std::ignore = printPages(printer, m_document, pages, [](int, int) { return true; });
     return;
   }
   QProgressDialog window(m_window);
@@ -81,10 +83,10 @@ void DocumentOutput::runJob(QPrinter& printer, const std::vector<int>& pages) {
   window.setWindowModality(Qt::WindowModal);
   window.setMinimumDuration(0);
   window.setRange(0, sheets);
-  const PrintEnd end = printPages(printer, m_document, pages, shownBy(window));
+  const bool printed = printPages(printer, m_document, pages, shownBy(window));
   window.close();
-  if (end == PrintEnd::Stopped) {
-    dialogs::MsgBox(QStringLiteral("打印已停止，之前的页可能仍会打印出来。"), dialogs::Information,
+  if (!printed) {
+    dialogs::MsgBox(QStringLiteral("打印已取消，已送往打印机的页可能仍会打印出来。"), dialogs::Information,
                     QStringLiteral("信息"));
   }
 }

@@ -128,6 +128,8 @@ void PageView::setZoomAround(const Zoom& zoom, QPoint place) {
     horizontalScrollBar()->setValue(target.x());
     verticalScrollBar()->setValue(zoom.fit == Zoom::Fit::Page ? m_layout.scrollOf(m_current) : target.y());
   }
+  const QRect seen(scrolled(), viewport()->size());
+  if (!seen.intersects(m_layout.pageRect(m_current))) setCurrent(m_layout.currentPage(seen.top()));
   emit zoomChanged();
 }
 
@@ -237,8 +239,6 @@ const QImage* PageView::paintTile(int index, int tile) {
   QImage image(area.size(), QImage::Format_RGB32);
   image.fill(Qt::white);
   QPainter painter(&image);
-  painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
-                         QPainter::SmoothPixmapTransform);
   painter.translate(-area.topLeft());
   const QSizeF paper = m_document.paperSize();
   painter.save();

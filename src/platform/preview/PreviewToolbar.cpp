@@ -66,7 +66,7 @@ void PreviewToolbar::addPageBox() {
   m_page->setToolTip(QStringLiteral("页码，按回车键转到该页"));
   m_page->setAccessibleName(QStringLiteral("页码"));
   m_page->setAlignment(Qt::AlignCenter);
-  m_page->setFixedWidth(m_page->fontMetrics().horizontalAdvance(QStringLiteral("00000 / 00000")));
+  m_page->setFixedWidth(m_page->fontMetrics().horizontalAdvance(QStringLiteral("0000 / 0000")));
   connect(m_page, &QLineEdit::returnPressed, this, [this] { emit pageEntered(m_page->text()); });
   addWidget(m_page)->setEnabled(false);
 }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include <QFile>
 #include <QPageLayout>
 #include <QPageRanges>
 #include <QPageSize>
@@ -56,14 +55,6 @@ void fitToPaper(QPainter& painter, const QPrinter& printer, QSize twips) {
   painter.scale(scale, scale);
 }
 
-PrintEnd breakOff(QPrinter& printer, QPainter& painter) {
-  const bool aborted = printer.abort();
-  const QString file = printer.outputFileName();
-  painter.end();
-  if (!file.isEmpty()) return QFile::remove(file) ? PrintEnd::Cancelled : PrintEnd::Stopped;
-  return aborted ? PrintEnd::Cancelled : PrintEnd::Stopped;
-}
-
 }  // namespace
 
 void prepare(QPrinter& printer, const report::Document& document) {
@@ -83,15 +74,18 @@ std::vector<int> pagesToPrint(const QPrinter& printer, int pageCount, int curren
   return repeated(pages, copies, printer.collateCopies());
 }
 
-PrintEnd printPages(QPrinter& printer, const report::Document& document, const std::vector<int>& pages,
-                    const PrintProgress& progress) {
+bool printPages(QPrinter& printer, const report::Document& document, const std::vector<int>& pages,
+                const PrintProgress& progress) {
   QPainter painter;
   // A printer that is gone still calls itself idle: only begin() tells.
   if (!painter.begin(&printer)) fail(QStringLiteral("无法开始打印"), printer);
   report::DecodingPictureSource pictures;
   const int total = static_cast<int>(pages.size());
   for (int done = 0; done < total; ++done) {
-    if (!progress(done, total)) return breakOff(printer, painter);
+    if (!progress(done, total)) {
+      printer.abort();
+      return false;
+    }
     if (done > 0 && !printer.newPage()) fail(QStringLiteral("打印中断"), printer);
     painter.save();
     fitToPaper(painter, printer, document.paperSize());
@@ -101,7 +95,7 @@ PrintEnd printPages(QPrinter& printer, const report::Document& document, const s
   const bool ended = painter.end();
   if (!ended || printer.printerState() == QPrinter::Error) fail(QStringLiteral("打印中断"), printer);
   progress(total, total);
-  return PrintEnd::Printed;
+  return true;
 }
 
 }  // namespace preview

@@ -1,0 +1,188 @@
+#include <gtest/gtest.h>
+
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <QWheelEvent>
+
+#include "SampleReport.h"
+#include "preview/PageView.h"
+
+using preview::PageView;
+using preview::Zoom;
+
+namespace {
+
+constexpr QSize viewSize{800, 600};
+
+class PageViewTest : public ::testing::Test {
+ protected:
+  void open(int pages) {
+    view = std::make_unique<PageView>(sampleDocument(pages));
+    view->resize(viewSize);
+    view->show();
+    settle();
+  }
+
+  /// Lets the view paint all that it puts off.
+  static void settle() { QTest::qWait(60); }
+
+  QImage grabbed() const { return view->viewport()->grab().toImage(); }
+
+  void wheel(int notches, Qt::KeyboardModifiers modifiers) const {
+    const QPointF place = view->viewport()->rect().center();
+    QWheelEvent event(place, view->viewport()->mapToGlobal(place), {}, QPoint(0, notches * 120), Qt::NoButton,
+                      modifiers, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(view->viewport(), &event);
+  }
+
+  std::unique_ptr<PageView> view;
+};
+
+/// Whether anything black is drawn in the middle of the view's white pages.
+int darkPixels(const QImage& image) {
+  int dark = 0;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) dark += qGray(image.pixel(x, y)) < 64 ? 1 : 0;
+  }
+  return dark;
+}
+
+}  // namespace
+
+TEST_F(PageViewTest, PaintsOnlyThePagesThatAreSeen) {
+  open(1000);
+  EXPECT_LE(view->cache().count(), 2);
+  EXPECT_GT(darkPixels(grabbed()), 100) << "the number on the first page";
+  view->goToPage(500);
+  settle();
+  EXPECT_LE(view->cache().count(), 4);
+}
+
+TEST_F(PageViewTest, CacheStaysBoundedWhileAllPagesAreSeen) {
+  open(200);
+  view->setZoom({Zoom::Fit::None, 100});
+  for (int page = 0; page < 200; ++page) {
+    view->goToPage(page);
+    std::ignore = grabbed();
+  }
+  EXPECT_LE(view->cache().bytes(), preview::TileCache::defaultBytes);
+  EXPECT_GT(view->cache().count(), 2);
+  EXPECT_LT(view->cache().count(), 200);
+}
+
+TEST_F(PageViewTest, LargestZoomTakesNoMoreThanTheScreenNeeds) {
+  open(3);
+  view->setZoom({Zoom::Fit::None, preview::largestPercent});
+  settle();
+  EXPECT_GT(view->cache().count(), 0);
+  EXPECT_LE(view->cache().bytes(), qsizetype{16} * 1024 * 1024);
+}
+
+TEST_F(PageViewTest, WhatDoesNotFitTheCacheIsPaintedAllTheSame) {
+  open(40);
+  view->setZoom({Zoom::Fit::None, preview::smallestPercent});
+  view->resize(400, 3000);
+  settle();
+  EXPECT_GE(view->cache().count(), 9);
+}
+
+TEST_F(PageViewTest, GoesToPagesAndStopsAtTheEnds) {
+  open(5);
+  const QSignalSpy changes(view.get(), &PageView::currentPageChanged);
+  view->goToPage(2);
+  EXPECT_EQ(view->currentPage(), 2);
+  EXPECT_EQ(view->verticalScrollBar()->value(), view->layout().scrollOf(2));
+  view->goToPage(99);
+  EXPECT_EQ(view->currentPage(), 4);
+  view->goToPage(-1);
+  EXPECT_EQ(view->currentPage(), 0);
+  EXPECT_EQ(changes.count(), 3);
+}
+
+TEST_F(PageViewTest, EveryPageCanBeGoneToWhenAllAreSeenAtOnce) {
+  open(3);
+  view->setZoom({Zoom::Fit::None, preview::smallestPercent});
+  view->resize(800, 1200);
+  for (const int page : {1, 2, 1, 0}) {
+    view->goToPage(page);
+    EXPECT_EQ(view->currentPage(), page);
+  }
+}
+
+TEST_F(PageViewTest, ScrollingMovesTheCurrentPage) {
+  open(5);
+  view->verticalScrollBar()->setValue(view->layout().scrollOf(3));
+  EXPECT_EQ(view->currentPage(), 3);
+  view->verticalScrollBar()->setValue(view->verticalScrollBar()->maximum());
+  EXPECT_EQ(view->currentPage(), 4);
+  for (int notch = 0; notch < 10; ++notch) wheel(1, Qt::NoModifier);
+  EXPECT_LT(view->currentPage(), 4);
+}
+
+TEST_F(PageViewTest, FitsFollowTheSizeOfTheView) {
+  open(3);
+  view->setZoom({Zoom::Fit::Page, 100});
+  EXPECT_EQ(view->layout().pageSize().height(), view->viewport()->height() - 2 * preview::PageLayout::gap);
+  view->setZoom({Zoom::Fit::Width, 100});
+  EXPECT_EQ(view->layout().pageSize().width(), view->viewport()->width() - 2 * preview::PageLayout::gap);
+  const double before = view->shownPercent();
+  view->resize(1000, 600);
+  EXPECT_GT(view->shownPercent(), before);
+  view->setZoom({Zoom::Fit::None, 100});
+  view->resize(500, 600);
+  EXPECT_DOUBLE_EQ(view->shownPercent(), 100);
+}
+
+TEST_F(PageViewTest, ResizingKeepsTheLineThatIsRead) {
+  open(20);
+  view->goToPage(10);
+  view->verticalScrollBar()->setValue(view->verticalScrollBar()->value() +
+                                      view->layout().pageSize().height() / 4);
+  view->resize(500, 600);
+  EXPECT_EQ(view->currentPage(), 10);
+  const double within =
+      static_cast<double>(view->verticalScrollBar()->value() - view->layout().pageRect(10).top()) /
+      view->layout().pageSize().height();
+  EXPECT_NEAR(within, 0.25, 0.03);
+}
+
+TEST_F(PageViewTest, ControlAndWheelZoomsAroundThePointer) {
+  open(10);
+  view->setZoom({Zoom::Fit::None, 100});
+  view->goToPage(4);
+  const int place = view->viewport()->rect().center().y();
+  const auto heightRead = [&] {
+    const QRect page = view->layout().pageRect(4);
+    return static_cast<double>(view->verticalScrollBar()->value() + place - page.top()) / page.height();
+  };
+  const double before = heightRead();
+  wheel(1, Qt::ControlModifier);
+  EXPECT_EQ(view->zoom(), (Zoom{Zoom::Fit::None, 125}));
+  EXPECT_NEAR(heightRead(), before, 0.01);
+  wheel(-2, Qt::ControlModifier);
+  EXPECT_EQ(view->zoom(), (Zoom{Zoom::Fit::None, 75}));
+  EXPECT_NEAR(heightRead(), before, 0.01);
+}
+
+TEST_F(PageViewTest, ZoomingIntoAnotherPageMakesItTheCurrentOne) {
+  open(40);
+  view->resize(800, 900);
+  view->setZoom({Zoom::Fit::None, preview::smallestPercent});
+  EXPECT_EQ(view->currentPage(), 0);
+  for (int step = 0; step < 5; ++step) wheel(1, Qt::ControlModifier);
+  EXPECT_GT(view->currentPage(), 0);
+  EXPECT_TRUE(view->layout()
+                  .pageRect(view->currentPage())
+                  .contains(view->layout().pageRect(0).center().x(),
+                            view->verticalScrollBar()->value() + view->viewport()->height() / 2));
+}
+
+TEST_F(PageViewTest, ADocumentWithoutPagesSaysSo) {
+  view = std::make_unique<PageView>(report::Document());
+  view->resize(viewSize);
+  view->goToPage(1);
+  view->zoomIn();
+  EXPECT_EQ(view->currentPage(), 0);
+  EXPECT_GT(darkPixels(grabbed()), 50);
+}

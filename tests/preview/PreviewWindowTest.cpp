@@ -1,0 +1,195 @@
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QComboBox>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "SampleReport.h"
+#include "preview/DocumentOutput.h"
+#include "preview/PageView.h"
+#include "preview/PreviewToolbar.h"
+#include "preview/PreviewWindow.h"
+#include "support/ScriptedBoxes.h"
+
+using preview::PreviewToolbar;
+using preview::Zoom;
+
+namespace {
+
+/// Printers that the test makes up: none, or one that prints into a file.
+class FakePrinters : public preview::Printers {
+ public:
+  explicit FakePrinters(QString file) : m_file(std::move(file)) {}
+  [[nodiscard]] bool available() const override { return !m_file.isEmpty(); }
+  bool choose(QPrinter& printer, int /*pageCount*/, QWidget* /*parent*/) override {
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(m_file);
+    return true;
+  }
+
+ private:
+  QString m_file;
+};
+
+class PreviewWindowTest : public ::testing::Test {
+ protected:
+  void open(const report::Document& document, const QString& printerFile = {}) {
+    window = std::make_unique<preview::PreviewWindow>(document, SampleReport(0).Toolbar,
+                                                      std::make_unique<FakePrinters>(printerFile));
+    window->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get())) << "keys reach active windows only";
+    toolbar = window->findChild<PreviewToolbar*>(QStringLiteral("toolbar"));
+    view = window->findChild<preview::PageView*>(QStringLiteral("view"));
+    pageBox = window->findChild<QLineEdit*>(QStringLiteral("txtPage"));
+    zoomBox = window->findChild<QComboBox*>(QStringLiteral("cmbZoom"));
+    ASSERT_TRUE(toolbar && view && pageBox && zoomBox);
+  }
+
+  void use(PreviewToolbar::Place place) const { toolbar->tool(place)->trigger(); }
+  void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {
+    QTest::keyClick(view, static_cast<Qt::Key>(key), modifiers);
+  }
+  QList<int> enabledPlaces() const {
+    QList<int> places;
+    for (int place = 0; place < toolbar->actions().size(); ++place) {
+      const QAction* action = toolbar->actions().at(place);
+      if (!action->isSeparator() && action->isEnabled()) places.append(place);
+    }
+    return places;
+  }
+
+  QTemporaryDir directory;
+  support::ScriptedBoxes boxes;
+  std::unique_ptr<preview::PreviewWindow> window;
+  PreviewToolbar* toolbar = nullptr;
+  preview::PageView* view = nullptr;
+  QLineEdit* pageBox = nullptr;
+  QComboBox* zoomBox = nullptr;
+};
+
+}  // namespace
+
+TEST_F(PreviewWindowTest, OpensOnTheFirstPageWithWhatCanBeDoneThere) {
+  open(sampleDocument(12));
+  EXPECT_EQ(window->windowTitle(), QStringLiteral("样本: 页/数"));
+  EXPECT_TRUE(window->windowFlags().testFlag(Qt::WindowMaximizeButtonHint));
+  EXPECT_EQ(pageBox->text(), QStringLiteral("1 / 12"));
+  EXPECT_EQ(zoomBox->currentText(), QStringLiteral("页宽"));
+  EXPECT_EQ(enabledPlaces(), (QList<int>{2, 11, 12, 13, 16, 17, 21}));
+  use(PreviewToolbar::Next);
+  EXPECT_EQ(enabledPlaces(), (QList<int>{2, 11, 12, 13, 15, 16, 17, 21}));
+}
+
+TEST_F(PreviewWindowTest, NothingCanBeDoneWithoutPages) {
+  open(report::Document());
+  EXPECT_TRUE(enabledPlaces().isEmpty());
+  EXPECT_EQ(pageBox->text(), QStringLiteral("0 / 0"));
+  press(Qt::Key_End, Qt::ControlModifier);
+  press(Qt::Key_0, Qt::ControlModifier);
+  EXPECT_TRUE(window->isVisible());
+}
+
+TEST_F(PreviewWindowTest, KeysTurnThePages) {
+  open(sampleDocument(4));
+  press(Qt::Key_PageDown);
+  press(Qt::Key_PageDown);
+  EXPECT_EQ(pageBox->text(), QStringLiteral("3 / 4"));
+  press(Qt::Key_PageUp);
+  EXPECT_EQ(view->currentPage(), 1);
+  press(Qt::Key_End, Qt::ControlModifier);
+  EXPECT_EQ(view->currentPage(), 3);
+  EXPECT_FALSE(toolbar->tool(PreviewToolbar::Next)->isEnabled());
+  press(Qt::Key_Home, Qt::ControlModifier);
+  EXPECT_EQ(view->currentPage(), 0);
+  press(Qt::Key_Escape);
+  EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(PreviewWindowTest, PageBoxGoesToThePageAndForgetsNonsense) {
+  open(sampleDocument(12));
+  const auto enter = [this](const QString& text) {
+    pageBox->setText(text);
+    QTest::keyClick(pageBox, Qt::Key_Return);
+  };
+  enter(QStringLiteral("5"));
+  EXPECT_EQ(view->currentPage(), 4);
+  EXPECT_EQ(pageBox->text(), QStringLiteral("5 / 12"));
+  enter(QStringLiteral("第一页"));
+  EXPECT_EQ(pageBox->text(), QStringLiteral("5 / 12"));
+  enter(QStringLiteral("100"));
+  EXPECT_EQ(pageBox->text(), QStringLiteral("12 / 12"));
+  EXPECT_TRUE(window->isVisible());
+}
+
+TEST_F(PreviewWindowTest, ZoomToolsKeysAndBoxAgree) {
+  open(sampleDocument(2));
+  press(Qt::Key_0, Qt::ControlModifier);
+  EXPECT_EQ(zoomBox->currentText(), QStringLiteral("100%"));
+  use(PreviewToolbar::ZoomIn);
+  EXPECT_EQ(zoomBox->currentText(), QStringLiteral("125%"));
+  press(Qt::Key_Minus, Qt::ControlModifier);
+  press(Qt::Key_Minus, Qt::ControlModifier);
+  EXPECT_EQ(zoomBox->currentText(), QStringLiteral("75%"));
+  emit zoomBox->activated(static_cast<int>(preview::zoomList().size()) - 1);
+  EXPECT_EQ(view->zoom().percent, preview::largestPercent);
+  EXPECT_FALSE(toolbar->tool(PreviewToolbar::ZoomIn)->isEnabled());
+  emit zoomBox->activated(0);
+  EXPECT_EQ(view->zoom().fit, Zoom::Fit::Page);
+  EXPECT_TRUE(toolbar->tool(PreviewToolbar::ZoomIn)->isEnabled());
+}
+
+TEST_F(PreviewWindowTest, PdfIsStoredWhereTheUserSays) {
+  open(sampleDocument(2));
+  const QString file = directory.filePath(QStringLiteral("卡.pdf"));
+  boxes.expectFile({file});
+  boxes.expectMessage(file);
+  use(PreviewToolbar::SavePdf);
+  EXPECT_TRUE(QFileInfo(file).size() > 0);
+  ASSERT_EQ(boxes.files().size(), 1u);
+  EXPECT_TRUE(boxes.files()[0].save);
+  EXPECT_EQ(boxes.files()[0].filter, QStringLiteral("PDF文件|*.pdf"));
+  EXPECT_EQ(boxes.files()[0].fileName, QStringLiteral("样本_ 页_数.pdf"));
+  EXPECT_EQ(boxes.messages()[0].style, dialogs::Information);
+  boxes.expectFile({});
+  use(PreviewToolbar::SavePdf);
+}
+
+TEST_F(PreviewWindowTest, PdfThatCannotBeWrittenIsTold) {
+  open(sampleDocument(1));
+  boxes.expectFile({directory.filePath(QStringLiteral("missing/x.pdf"))});
+  boxes.expectMessage(QStringLiteral("x.pdf"));
+  use(PreviewToolbar::SavePdf);
+  EXPECT_EQ(boxes.messages()[0].style, dialogs::Exclamation);
+  EXPECT_EQ(boxes.messages()[0].title, QStringLiteral("错误"));
+}
+
+TEST_F(PreviewWindowTest, WithoutAPrinterPrintingOffersAPdf) {
+  open(sampleDocument(1));
+  const QString file = directory.filePath(QStringLiteral("x.pdf"));
+  boxes.expectMessage(QStringLiteral("没有可用的打印机"), dialogs::Answer::No);
+  press(Qt::Key_P, Qt::ControlModifier);
+  EXPECT_FALSE(QFileInfo::exists(file));
+  boxes.expectMessage(QStringLiteral("没有可用的打印机"), dialogs::Answer::Yes);
+  boxes.expectFile({file});
+  boxes.expectMessage(file);
+  use(PreviewToolbar::Print);
+  EXPECT_TRUE(QFileInfo::exists(file));
+}
+
+TEST_F(PreviewWindowTest, PrintsOnTheChosenPrinterWithProgressWhenItIsLong) {
+  const QString file = directory.filePath(QStringLiteral("printed.pdf"));
+  open(sampleDocument(preview::DocumentOutput::quietSheets + 1), file);
+  use(PreviewToolbar::Print);
+  EXPECT_GT(QFileInfo(file).size(), 0);
+  EXPECT_TRUE(boxes.messages().empty());
+}
+
+TEST_F(PreviewWindowTest, FailedJobIsTold) {
+  open(sampleDocument(1), directory.filePath(QStringLiteral("missing/printed.pdf")));
+  boxes.expectMessage(QStringLiteral("无法开始打印"));
+  use(PreviewToolbar::Print);
+  EXPECT_EQ(boxes.messages()[0].title, QStringLiteral("错误"));
+}

@@ -1,0 +1,92 @@
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QFile>
+#include <QLineEdit>
+#include <QTimer>
+
+#include "preview/PreviewWindow.h"
+#include "printing/CardPreview.h"
+#include "support/ScriptedBoxes.h"
+#include "support/TestHome.h"
+
+namespace {
+
+class CardPreviewTest : public ::testing::Test {
+ protected:
+  /// Employees as a list loads them: each owns its photo file.
+  std::shared_ptr<clsEmployeeSet> employees(int count,
+                                            const QByteArray& photo = support::TestHome::tinyJpeg()) {
+    auto set = std::make_shared<clsEmployeeSet>();
+    for (int i = 1; i <= count; ++i) {
+      const auto employee = std::make_shared<clsEmployee>();
+      employee->setENUMBER(QString::number(i));
+      employee->setENAME(QStringLiteral("张三"));
+      employee->setEBARCODE(QStringLiteral("123456789012345"));
+      employee->setHeadImg(photoFile(i));
+      QFile file(photoFile(i));
+      EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+      file.write(photo);
+      set->Add(employee);
+    }
+    return set;
+  }
+
+  [[nodiscard]] QString photoFile(int number) const {
+    return home.file(QString::number(number) + QStringLiteral(".jpg"));
+  }
+
+  /// Shows the preview, reads its page box and closes it.
+  QString shownPages(std::shared_ptr<clsEmployeeSet> set) {
+    QString pages = QStringLiteral("no preview");
+    QTimer::singleShot(0, [&pages, this] {
+      auto* window = qobject_cast<preview::PreviewWindow*>(QApplication::activeModalWidget());
+      if (!window) return;
+      pages = window->findChild<QLineEdit*>(QStringLiteral("txtPage"))->text();
+      filesWhileShown = QFile::exists(photoFile(1));
+      window->reject();
+    });
+    showCardPreview(report, std::move(set));
+    return pages;
+  }
+
+  support::TestHome home;
+  support::ScriptedBoxes boxes;
+  SingleEmployeeInfoReport report;
+  bool filesWhileShown = false;
+};
+
+}  // namespace
+
+TEST_F(CardPreviewTest, EmployeesAreLetGoWhenThePreviewCloses) {
+  EXPECT_EQ(shownPages(employees(5)), QStringLiteral("1 / 2"));
+  EXPECT_TRUE(filesWhileShown);
+  EXPECT_FALSE(QFile::exists(photoFile(1)));
+  EXPECT_FALSE(QFile::exists(photoFile(5)));
+}
+
+TEST_F(CardPreviewTest, ASecondPrintOfTheSameEmployeesHasItsPhotos) {
+  EXPECT_EQ(shownPages(employees(1)), QStringLiteral("1 / 1"));
+  EXPECT_EQ(shownPages(employees(1)), QStringLiteral("1 / 1"));
+  EXPECT_TRUE(report.photoFailures().isEmpty());
+}
+
+TEST_F(CardPreviewTest, UnreadablePhotosAreToldInOneMessage) {
+  boxes.expectMessage(QStringLiteral("以下员工的照片无法读取，签到卡上留空："));
+  EXPECT_EQ(shownPages(employees(25, "no picture")), QStringLiteral("1 / 7"));
+  ASSERT_EQ(boxes.messages().size(), 1u);
+  const dialogs::MessageBox& box = boxes.messages()[0];
+  EXPECT_EQ(box.style, dialogs::Exclamation);
+  EXPECT_EQ(box.title, QStringLiteral("警告"));
+  const QStringList lines = box.text.split(u'\n');
+  ASSERT_EQ(lines.size(), 22);
+  EXPECT_TRUE(lines[20].contains(QStringLiteral("20")));
+  EXPECT_EQ(lines[21], QStringLiteral("……共 25 名"));
+}
+
+TEST_F(CardPreviewTest, ARunThatFailsLetsGoAsWell) {
+  report.Detail.Controls.clear();
+  EXPECT_ANY_THROW(showCardPreview(report, employees(1)));
+  EXPECT_FALSE(QFile::exists(photoFile(1)));
+}
