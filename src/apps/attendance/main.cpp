@@ -1,3 +1,107 @@
-int main() {
-  return 0;
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QLibraryInfo>
+#include <QTranslator>
+
+#include "dialogs/QtDialogHost.h"
+#include "foundation/GlobalDefine.h"
+#include "foundation/mdMain.h"
+#include "graphics/Fonts.h"
+#include "runtime/ProgramDirectory.h"
+#include "shell/DesktopShell.h"
+#include "ui/frmMain.h"
+
+namespace {
+
+const QString homeOption = QStringLiteral("home");
+const QString screenshotOption = QStringLiteral("screenshot");
+
+void describe(QCommandLineParser& parser) {
+  parser.setApplicationDescription(QStringLiteral("签到系统：管理部门和员工，打印签到卡。"));
+  parser.addHelpOption();
+  parser.addVersionOption();
+  parser.addOption({homeOption,
+                    QStringLiteral("程序目录：attendance.ini 和照片文件所在的目录；"
+                                   "不给出时取环境变量 ATTENDANCE_HOME，再取程序所在目录。"),
+                    QStringLiteral("目录")});
+  parser.addOption(
+      {screenshotOption, QStringLiteral("列表载入后把主窗口存成 PNG 图片并退出。"), QStringLiteral("文件")});
+}
+
+/// Help and version are shown without a display.
+bool wantsTextOnly(int argc, char** argv) {
+  return std::any_of(argv + 1, argv + argc, [](const char* argument) {
+    const QByteArrayView option(argument);
+    return option == "--help" || option == "--help-all" || option == "-h" || option == "--version" ||
+           option == "-v";
+  });
+}
+
+void useChinese(QCoreApplication& application) {
+  auto* translator = new QTranslator(&application);
+  const QString directory = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+  if (translator->load(QStringLiteral("qtbase_zh_CN"), directory)) application.installTranslator(translator);
+}
+
+void showText(int argc, char** argv) {
+  QCoreApplication application(argc, argv);
+  useChinese(application);
+  QCommandLineParser parser;
+  describe(parser);
+  parser.process(application);
+}
+
+void saveScreenshot(frmMain& form, const QString& fileName) {
+  const bool saved = form.grab().save(fileName, "PNG");
+  if (!saved) std::fprintf(stderr, "图片未能写入：%s\n", fileName.toUtf8().constData());
+  QCoreApplication::exit(saved ? 0 : 1);
+}
+
+std::unique_ptr<MainForm> makeMainForm(const QString& screenshot) {
+  auto form = std::make_unique<frmMain>();
+  if (!screenshot.isEmpty()) {
+    QObject::connect(
+        form.get(), &frmMain::Loaded, form.get(),
+        [&form = *form, screenshot] { saveScreenshot(form, screenshot); }, Qt::QueuedConnection);
+  }
+  return form;
+}
+
+int runProgram(QApplication& application) {
+  useChinese(application);
+  QCommandLineParser parser;
+  describe(parser);
+  parser.process(application);
+  runtime::chooseAppPath(parser.value(homeOption));
+  QApplication::setFont(graphics::userInterfaceFont());
+
+  dialogs::QtDialogHost boxes;
+  shell::DesktopShell desktop;
+  const QString screenshot = parser.value(screenshotOption);
+  // Nobody sits before a screenshot: messages go to standard error.
+  if (screenshot.isEmpty()) dialogs::installHost(&boxes);
+  shell::installHost(&desktop);
+
+  const bool started = Main([&screenshot] { return makeMainForm(screenshot); });
+  const int result = started ? QApplication::exec() : 1;
+  gMainForm.reset();
+  gConnection.reset();
+  shell::installHost(nullptr);
+  dialogs::installHost(nullptr);
+  return result;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QCoreApplication::setApplicationName(QStringLiteral("attendance"));
+  QCoreApplication::setApplicationVersion(QStringLiteral(ATTENDANCE_VERSION));
+  QGuiApplication::setDesktopFileName(QStringLiteral("attendance"));
+  if (wantsTextOnly(argc, argv)) showText(argc, argv);
+  QApplication application(argc, argv);
+  return runProgram(application);
 }

@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QString>
+
+/// The key of the list row of the record with that identifier: "KEYPRE" and the identifier, so that a key is
+/// never purely numeric.
+[[nodiscard]] QString MakeItemKey(const QString& identifier);
+/// The identifier in a row's key: everything from the 7th character on.
+[[nodiscard]] QString ItemIdentifier(const QString& key);

@@ -1,0 +1,86 @@
+#include "ui/MainMenu.h"
+
+#include <algorithm>
+#include <array>
+
+#include <QHash>
+#include <QMenu>
+#include <QMenuBar>
+
+#include "ui/frmMain.h"
+
+namespace {
+
+using L1 = QLatin1String;
+
+constexpr QStringView separatorCaption = u"-";
+
+constexpr std::array tree = {
+    MenuEntry{L1(), L1("mnuSys"), u"系统(&S)"},
+    MenuEntry{L1("mnuSys"), L1("mnuCardInfoSet"), u"签到卡信息设置(&C)"},
+    MenuEntry{L1("mnuSys"), L1("mnuSplit1_1"), separatorCaption},
+    MenuEntry{L1("mnuSys"), L1("mnuExit"), u"退出(&X)", &frmMain::mnuExit_Click},
+
+    MenuEntry{L1(), L1("menDeptMange"), u"部门(&D)"},
+    MenuEntry{L1("menDeptMange"), L1("mnuDeptDsp"), u"显示列表(&D)", &frmMain::mnuDeptDsp_Click},
+    MenuEntry{L1("menDeptMange"), L1("mnuSplit2"), separatorCaption},
+    MenuEntry{L1("menDeptMange"), L1("mnuDeptAppend"), u"追加(&A)"},
+    MenuEntry{L1("menDeptMange"), L1("mnuDeptRemove"), u"删除(&R)", &frmMain::RemoveSelectedDepts},
+    MenuEntry{L1("menDeptMange"), L1("mnuDeptEdit"), u"修改(&E)"},
+    MenuEntry{L1("menDeptMange"), L1("mnuSplit3"), separatorCaption},
+    MenuEntry{L1("menDeptMange"), L1("mnuDeptExport"), u"导出(&O)"},
+
+    MenuEntry{L1(), L1("Opt"), u"员工(&E)"},
+    MenuEntry{L1("Opt"), L1("mnuEmpDsp"), u"显示列表(&D)", &frmMain::mnuEmpDsp_Click},
+    MenuEntry{L1("Opt"), L1("mnuSplit1"), separatorCaption},
+    MenuEntry{L1("Opt"), L1("mnuEmpImport"), u"导入初始信息(&I)"},
+    MenuEntry{L1("Opt"), L1("mnuEmpRemove"), u"删除(&R)", &frmMain::RemoveSelectedEmps},
+    MenuEntry{L1("Opt"), L1("mnuSplit4"), separatorCaption},
+    MenuEntry{L1("Opt"), L1("mnuEmpExport"), u"导出(&O)"},
+    MenuEntry{L1("Opt"), L1("mnuEmpPrint"), u"打印签到卡(&P)", &frmMain::mnuEmpPrint_Click},
+
+    MenuEntry{L1(), L1("mnuHelp"), u"帮助(&H)"},
+    MenuEntry{L1("mnuHelp"), L1("mnuHelpFile"), u"帮助文件(&F)", &frmMain::mnuHelpFile_Click},
+    MenuEntry{L1("mnuHelp"), L1("mnuVistHomePage"), u"访问官方网站(&V)", &frmMain::mnuVistHomePage_Click},
+    MenuEntry{L1("mnuHelp"), L1("mnuAbout"), u"关于(&A)"},
+
+    MenuEntry{L1(), popMenuName, u"弹出菜单"},
+    MenuEntry{popMenuName, L1("mnuPop_Append"), u"添加(&A)", &frmMain::mnuPop_Append_Click},
+    MenuEntry{popMenuName, L1("mnuPop_Remove"), u"删除(&R)", &frmMain::mnuPop_Remove_Click},
+    MenuEntry{popMenuName, L1("mnuPop_Edit"), u"修改(&E)", &frmMain::mnuPop_Edit_Click},
+    MenuEntry{popMenuName, L1("mnuSplit5"), separatorCaption},
+    MenuEntry{popMenuName, L1("mnuPop_Export"), u"导出(&O)", &frmMain::mnuPop_Export_Click},
+};
+
+}  // namespace
+
+std::span<const MenuEntry> mainMenuTree() {
+  return tree;
+}
+
+const MenuEntry& menuEntry(QLatin1String name) {
+  return *std::find_if(tree.begin(), tree.end(),
+                       [name](const MenuEntry& entry) { return entry.name == name; });
+}
+
+void buildMainMenu(QMainWindow& window, const std::function<void(const MenuEntry&)>& choose) {
+  QHash<QLatin1String, QMenu*> menus;
+  for (const MenuEntry& entry : tree) {
+    if (entry.parent.isEmpty()) {
+      QMenu* menu = window.menuBar()->addMenu(entry.caption.toString());
+      menu->setObjectName(entry.name);
+      menu->menuAction()->setVisible(entry.name != popMenuName);
+      menus.insert(entry.name, menu);
+      continue;
+    }
+    QMenu* menu = menus.value(entry.parent);
+    QAction* action =
+        entry.caption == separatorCaption ? menu->addSeparator() : menu->addAction(entry.caption.toString());
+    action->setObjectName(entry.name);
+    QObject::connect(action, &QAction::triggered, &window, [choose, action, &entry](bool checked) {
+      // What is checked is for the handler to say, not for the click.
+      action->setChecked(!checked);
+      choose(entry);
+    });
+  }
+}

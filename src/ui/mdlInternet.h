@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QString>
+
+/// Opens a file or a web address with its associated program; whether one was found. Callers may ignore that.
+bool OpenDocument(const QString& target);
