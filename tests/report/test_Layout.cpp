@@ -126,6 +126,20 @@ TEST(Layout, EveryBandReportsProgress) {
   EXPECT_EQ(counter.seen, (std::vector<std::pair<int, int>>{{1, 3}, {2, 3}, {3, 3}}));
 }
 
+TEST(Layout, ABandKeepsOnlyWhatItChanged) {
+  SmallReport small;
+  small.Detail.Controls.push_back(SmallReport::label(QStringLiteral("lblOther"), {0, 0, 500, 200}));
+  report::Section filled = small.Detail;
+  EXPECT_TRUE(report::captureBand(small.Detail, filled).changes.empty());
+  filled.Controls[1].Caption = QStringLiteral("甲");
+  const report::Band band = report::captureBand(small.Detail, filled);
+  ASSERT_EQ(band.changes.size(), 1U);
+  EXPECT_EQ(band.changes[0].control, 1U);
+  EXPECT_TRUE(std::holds_alternative<QString>(band.changes[0].value));
+  filled.Controls.pop_back();
+  EXPECT_THROW(std::ignore = report::captureBand(small.Detail, filled), runtime::RuntimeError);
+}
+
 TEST(Layout, PagesThatDoNotExistAreAnError) {
   EXPECT_EQ(Document().pageCount(), 0);
   EXPECT_THROW(std::ignore = Document().page(0), runtime::RuntimeError);

@@ -10,6 +10,7 @@
 #include "../graphics/PictureBytes.h"
 #include "SmallReport.h"
 #include "report/Pdf.h"
+#include "report/PhotoStreams.h"
 #include "runtime/RuntimeError.h"
 
 namespace {
@@ -54,7 +55,7 @@ std::vector<StoredImage> imagesOf(const QByteArray& pdf) {
   return images;
 }
 
-/// What a program prints for the PDF; skips the calling test's check by an empty text when it is missing.
+/// What a program prints.
 QByteArray output(const QString& program, const QStringList& arguments) {
   QProcess process;
   process.start(program, arguments);
@@ -84,6 +85,11 @@ QImage rendered(const QByteArray& pdf) {
 QColor rightHalf(const QImage& page, int band) {
   return page.pixelColor((500 + 700) / 10, (700 + 1000 * band + 450) / 10);
 }
+
+class FullDevice : public QBuffer {
+ protected:
+  qint64 writeData(const char* /*data*/, qint64 /*length*/) override { return -1; }
+};
 
 }  // namespace
 
@@ -190,4 +196,22 @@ TEST(Pdf, WhatCannotBeMadeLeavesTheOldFile) {
   SmallReport small;
   EXPECT_THROW(report::writePdf(small.run(), directory.filePath(QStringLiteral("none/x.pdf"))),
                runtime::RuntimeError);
+}
+
+TEST(PhotoStreams, WritesNothingWhenThePlaceholdersAreNotThoseHandedOut) {
+  const QByteArray pdf = report::toPdf(pictureReport({}));
+  QBuffer target;
+  target.open(QIODevice::WriteOnly);
+  EXPECT_FALSE(report::replacePlaceholders(pdf, {{pictureBytes("jpg", {60, 60}), {60, 60}, 3}}, target));
+  EXPECT_TRUE(target.data().isEmpty());
+}
+
+TEST(PhotoStreams, AFullDiskAndADamagedDocumentAreErrors) {
+  FullDevice full;
+  full.open(QIODevice::WriteOnly);
+  EXPECT_THROW(std::ignore = report::replacePlaceholders(report::toPdf(pictureReport({})), {}, full),
+               runtime::RuntimeError);
+  QBuffer target;
+  target.open(QIODevice::WriteOnly);
+  EXPECT_THROW(std::ignore = report::replacePlaceholders("no document", {}, target), runtime::RuntimeError);
 }

@@ -15,8 +15,8 @@ namespace {
 
 using Photo = PlaceholderSource::Photo;
 
-/// Drawn pictures are decoded for a printer of this resolution; the page's own unit is far finer.
-constexpr int twipsPerDot = 1440 / 300;
+/// Drawn pictures are decoded for 360 dots an inch; the page's own unit is far finer.
+constexpr int twipsPerDot = 4;
 
 QImage placeholder(std::size_t number) {
   QImage image(1, 1, QImage::Format_RGB32);
