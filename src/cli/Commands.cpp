@@ -1,0 +1,35 @@
+#include "cli/Commands.h"
+
+#include "cli/BackupCommand.h"
+#include "cli/CardsCommand.h"
+#include "cli/CheckCommand.h"
+#include "cli/DemoCommand.h"
+#include "cli/InitCommand.h"
+#include "cli/ListCommand.h"
+#include "cli/RemoveCommand.h"
+
+namespace cli {
+
+namespace {
+
+template <typename Kind>
+std::unique_ptr<Command> make() {
+  return std::make_unique<Kind>();
+}
+
+using Maker = std::unique_ptr<Command> (*)();
+constexpr Maker makers[] = {
+    make<InitCommand>,   make<DemoCommand>,   make<ListCommand>,  make<CardsCommand>,
+    make<RemoveCommand>, make<BackupCommand>, make<CheckCommand>,
+};
+
+}  // namespace
+
+std::vector<std::unique_ptr<Command>> makeCommands() {
+  std::vector<std::unique_ptr<Command>> commands;
+  commands.reserve(std::size(makers));
+  for (const Maker maker : makers) commands.push_back(maker());
+  return commands;
+}
+
+}  // namespace cli
