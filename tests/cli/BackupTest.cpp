@@ -1,0 +1,84 @@
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+
+#include "cli/Running.h"
+#include "support/TestHome.h"
+
+namespace {
+
+class Backup : public testing::Test {
+ protected:
+  Backup() {
+    home.execute(QStringLiteral("INSERT INTO Dept(DNAME) VALUES('教务处')"));
+    home.insertEmployee(QStringLiteral("A1"), QStringLiteral("张三"), 1, support::TestHome::tinyJpeg());
+  }
+
+  [[nodiscard]] Outcome backup(const QString& out) const {
+    return runIn(home.path(), {QStringLiteral("backup"), QStringLiteral("--out"), out});
+  }
+  /// Files of the home beside the three that belong there.
+  [[nodiscard]] QStringList leftovers() const {
+    QStringList files = QDir(home.path()).entryList(QDir::Files | QDir::Hidden);
+    for (const QString& own : {QStringLiteral("attendance.ini"), QStringLiteral("vorlent.dat"),
+                               QStringLiteral("vorlent.dat-journal")}) {
+      files.removeAll(own);
+    }
+    return files;
+  }
+
+  support::TestHome home;
+};
+
+TEST_F(Backup, CopiesAndCountsWhileAnotherProgramIsWriting) {
+  const auto writer = home.connect();
+  writer->BeginTrans();
+  std::ignore = writer->Execute(QStringLiteral("INSERT INTO Dept(DNAME) VALUES('总务处')"));
+  const QString copy = home.file(QStringLiteral("备份.dat"));
+  const Outcome outcome = backup(copy);
+  EXPECT_EQ(outcome.code, 0) << outcome.err.toStdString();
+  EXPECT_EQ(outcome.out,
+            QStringLiteral("备份完好：%1（Dept 1 行，Employee 1 行，Presence 0 行）\n").arg(copy));
+  writer->CommitTrans();
+  EXPECT_EQ(leftovers(), QStringList(QStringLiteral("备份.dat")));
+  EXPECT_EQ(home.single(QStringLiteral("SELECT COUNT(*) FROM Dept")), QStringLiteral("2"));
+}
+
+TEST_F(Backup, TheCopyTakesTheDatabasesPlace) {
+  const QString copy = home.file(QStringLiteral("copy.dat"));
+  ASSERT_EQ(backup(copy).code, 0);
+  home.execute(QStringLiteral("DELETE FROM Employee"));
+  ASSERT_TRUE(QFile::remove(home.databaseFile()) && QFile::rename(copy, home.databaseFile()));
+  EXPECT_EQ(home.single(QStringLiteral("SELECT ENAME FROM Employee")), QStringLiteral("张三"));
+}
+
+TEST_F(Backup, NeverOverwrites) {
+  const QString taken = home.file(QStringLiteral("taken"));
+  QFile file(taken);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("kept");
+  file.close();
+  for (const QString& out : {taken, home.databaseFile(), home.path()}) {
+    const Outcome outcome = backup(out);
+    EXPECT_EQ(outcome.code, 1);
+    EXPECT_TRUE(outcome.err.contains(QStringLiteral("已经存在"))) << outcome.err.toStdString();
+  }
+  EXPECT_EQ(QFileInfo(taken).size(), 4);
+  EXPECT_EQ(leftovers(), QStringList(QStringLiteral("taken")));
+}
+
+TEST_F(Backup, ADamagedDatabaseGivesNoBackup) {
+  QFile file(home.databaseFile());
+  ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+  // In the middle of the last page, which holds data.
+  file.seek(file.size() - 2048);
+  file.putChar('\x55');
+  file.close();
+  const Outcome outcome = backup(home.file(QStringLiteral("copy.dat")));
+  EXPECT_EQ(outcome.code, 1);
+  EXPECT_NE(outcome.err, QString());
+  EXPECT_EQ(leftovers(), QStringList());
+}
+
+}  // namespace
