@@ -115,13 +115,18 @@ class FacePainter {
     QPainterPath cap;
     cap.addEllipse(headCenter + QPointF(0, -6), m_halfWidth + 7, m_halfHeight + 8);
     QPainterPath below;
-    // Where the hair ends above the forehead: a fringe, a parting to either side, or a high line.
-    const std::array<QPointF, hairStyles> bows{QPointF(0, 0), QPointF(-38, -34), QPointF(38, -34),
-                                               QPointF(0, -52)};
+    // Where the hair ends: down to the ears at the sides, and over the forehead a fringe, a parting to either
+    // side, or a high line.
+    const std::array<QPointF, hairStyles> bows{QPointF(0, -20), QPointF(-40, -58), QPointF(40, -58),
+                                               QPointF(0, -84)};
     const QPointF bow = bows[static_cast<std::size_t>(m_face.hairStyle)];
-    const double hairline = headCenter.y() - (m_face.woman ? 26 : 34);
-    below.moveTo(QPointF(0, hairline + 26));
-    below.quadTo(QPointF(headCenter.x() + bow.x(), hairline + bow.y()), QPointF(canvasWidth, hairline + 26));
+    const double hairline = headCenter.y() - (m_face.woman ? 30 : 38);
+    const double reach = m_halfWidth + 8;
+    below.moveTo(QPointF(0, hairline + 46));
+    below.lineTo(QPointF(headCenter.x() - reach, hairline + 46));
+    below.quadTo(QPointF(headCenter.x() + bow.x(), hairline + bow.y()),
+                 QPointF(headCenter.x() + reach, hairline + 46));
+    below.lineTo(QPointF(canvasWidth, hairline + 46));
     below.lineTo(canvasWidth, canvasHeight);
     below.lineTo(0, canvasHeight);
     m_painter.setBrush(m_hair);
