@@ -29,15 +29,15 @@ void refuseTarget(const QString& path) {
     fail(QStringLiteral("目录“%1”是只读的").arg(directory.filePath()));
   }
   // The copy is opened by a connection string, which cannot name such a file.
-  if (target.absoluteFilePath().contains(u';') || target.absoluteFilePath().contains(u'\\')) {
-    fail(QStringLiteral("路径“%1”含有分号或反斜杠").arg(target.absoluteFilePath()));
-  }
+  const QString full = target.absoluteFilePath();
+  if (full.contains(u'"') || full.contains(u'\\'))
+    fail(QStringLiteral("路径“%1”含有双引号或反斜杠").arg(full));
 }
 
 std::shared_ptr<ado::Connection> openCopy(const QString& path) {
   auto connection = std::make_shared<ado::Connection>();
   connection->Open(
-      QStringLiteral("PROVIDER=Microsoft.Jet.OLEDB.4.0;Data Source=%1;Jet OLEDB:Database password=%2")
+      QStringLiteral("PROVIDER=Microsoft.Jet.OLEDB.4.0;Data Source=\"%1\";Jet OLEDB:Database password=%2")
           .arg(QFileInfo(path).absoluteFilePath(), databasePassword()));
   return connection;
 }

@@ -35,13 +35,13 @@ TEST_F(Backup, CopiesAndCountsWhileAnotherProgramIsWriting) {
   const auto writer = home.connect();
   writer->BeginTrans();
   std::ignore = writer->Execute(QStringLiteral("INSERT INTO Dept(DNAME) VALUES('总务处')"));
-  const QString copy = home.file(QStringLiteral("备份.dat"));
+  const QString copy = home.file(QStringLiteral("备份;a=b.dat"));
   const Outcome outcome = backup(copy);
   EXPECT_EQ(outcome.code, 0) << outcome.err.toStdString();
   EXPECT_EQ(outcome.out,
             QStringLiteral("备份完好：%1（Dept 1 行，Employee 1 行，Presence 0 行）\n").arg(copy));
   writer->CommitTrans();
-  EXPECT_EQ(leftovers(), QStringList(QStringLiteral("备份.dat")));
+  EXPECT_EQ(leftovers(), QStringList(QStringLiteral("备份;a=b.dat")));
   EXPECT_EQ(home.single(QStringLiteral("SELECT COUNT(*) FROM Dept")), QStringLiteral("2"));
 }
 
