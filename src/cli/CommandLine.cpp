@@ -97,9 +97,11 @@ QString homeOf(const CLI::Option* before, const CLI::Option* behind) {
 }
 
 void refuseExtras(const CLI::App& app) {
-  const std::vector<std::string> extras = app.remaining(true);
-  if (extras.empty()) return;
-  throw UsageError(QStringLiteral("不认识的参数：%1").arg(QString::fromStdString(extras.front())));
+  for (const std::string& extra : app.remaining(true)) {
+    // The mark before arguments that look like options is left over too.
+    if (extra == "--") continue;
+    throw UsageError(QStringLiteral("不认识的参数：%1").arg(QString::fromStdString(extra)));
+  }
 }
 
 /// The parser's complaint in the user's language. Only a wrong count of values is left to the parser to find.

@@ -126,10 +126,10 @@ void DatabaseCheck::checkPhoto(const QString& who, const QVariant& photo) {
     return;
   }
   try {
-    const graphics::Picture picture(bytes, QStringLiteral("照片"));
+    const graphics::Picture picture(bytes, who);
     if (picture.decode().isNull()) m_report(who + QStringLiteral("照片已损坏"));
-  } catch (const runtime::RuntimeError& error) {
-    m_report(who + oneLine(error.description()));
+  } catch (const runtime::RuntimeError&) {
+    m_report(who + QStringLiteral("照片不是可识别的图片"));
   }
 }
 
