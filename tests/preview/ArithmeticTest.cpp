@@ -6,7 +6,6 @@
 
 using preview::PageLayout;
 using preview::TileGrid;
-using preview::Zoom;
 
 TEST(Zoom, ListStartsWithTheFitsAndReachesFromSmallestToLargest) {
   const auto& list = preview::zoomList();

@@ -17,9 +17,10 @@ constexpr QSize viewSize{800, 600};
 
 class PageViewTest : public ::testing::Test {
  protected:
-  void open(int pages) {
+  void open(int pages, const Zoom& zoom = {Zoom::Fit::Width, 100}) {
     view = std::make_unique<PageView>(sampleDocument(pages));
     view->resize(viewSize);
+    view->setZoom(zoom);
     view->show();
     settle();
   }
@@ -29,8 +30,10 @@ class PageViewTest : public ::testing::Test {
 
   QImage grabbed() const { return view->viewport()->grab().toImage(); }
 
+  QPoint wheelPlace() const { return {view->viewport()->width() / 2, view->viewport()->height() / 5}; }
+
   void wheel(int notches, Qt::KeyboardModifiers modifiers) const {
-    const QPointF place = view->viewport()->rect().center();
+    const QPointF place = wheelPlace();
     QWheelEvent event(place, view->viewport()->mapToGlobal(place), {}, QPoint(0, notches * 120), Qt::NoButton,
                       modifiers, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(view->viewport(), &event);
@@ -79,12 +82,25 @@ TEST_F(PageViewTest, LargestZoomTakesNoMoreThanTheScreenNeeds) {
   EXPECT_LE(view->cache().bytes(), qsizetype{16} * 1024 * 1024);
 }
 
-TEST_F(PageViewTest, WhatDoesNotFitTheCacheIsPaintedAllTheSame) {
-  open(40);
-  view->setZoom({Zoom::Fit::None, preview::smallestPercent});
-  view->resize(400, 3000);
+TEST_F(PageViewTest, AScreenLargerThanTheCacheIsPaintedOnceAllTheSame) {
+  open(1);
+  view->resize(4200, 4200);
+  view->setZoom({Zoom::Fit::None, preview::largestPercent});
+  for (int frame = 0; frame < 40 && view->cache().bytes() <= preview::TileCache::defaultBytes; ++frame) {
+    view->viewport()->repaint();
+  }
+  EXPECT_GT(view->cache().bytes(), preview::TileCache::defaultBytes);
+  EXPECT_LE(view->cache().bytes(), view->cache().limit());
+}
+
+TEST_F(PageViewTest, AZoomShowsFreshlyPaintedPages) {
+  open(2, {Zoom::Fit::None, 50});
+  const QImage zoomed = grabbed();
+  open(2);
+  view->setZoom({Zoom::Fit::None, 50});
+  view->goToPage(0);
   settle();
-  EXPECT_GE(view->cache().count(), 9);
+  EXPECT_EQ(grabbed(), zoomed);
 }
 
 TEST_F(PageViewTest, GoesToPagesAndStopsAtTheEnds) {
@@ -151,7 +167,7 @@ TEST_F(PageViewTest, ControlAndWheelZoomsAroundThePointer) {
   open(10);
   view->setZoom({Zoom::Fit::None, 100});
   view->goToPage(4);
-  const int place = view->viewport()->rect().center().y();
+  const int place = wheelPlace().y();
   const auto heightRead = [&] {
     const QRect page = view->layout().pageRect(4);
     return static_cast<double>(view->verticalScrollBar()->value() + place - page.top()) / page.height();
@@ -170,7 +186,7 @@ TEST_F(PageViewTest, ZoomingIntoAnotherPageMakesItTheCurrentOne) {
   view->resize(800, 900);
   view->setZoom({Zoom::Fit::None, preview::smallestPercent});
   EXPECT_EQ(view->currentPage(), 0);
-  for (int step = 0; step < 5; ++step) wheel(1, Qt::ControlModifier);
+  for (int step = 0; step < 5; ++step) view->zoomIn();
   EXPECT_GT(view->currentPage(), 0);
   EXPECT_TRUE(view->layout()
                   .pageRect(view->currentPage())

@@ -191,6 +191,7 @@ void PageView::paintEvent(QPaintEvent* /*event*/) {
   reserveCache(first, last);
   QElapsedTimer since;
   since.start();
+  m_paintedInFrame = 0;
   bool complete = true;
   for (int index = first; index <= last; ++index) {
     paintFrame(painter, index);
@@ -227,7 +228,11 @@ bool PageView::paintTiles(QPainter& painter, int index, const QElapsedTimer& sin
   bool complete = true;
   for (const int tile : m_grid.touchedBy(deviceViewport().translated(-page.topLeft()))) {
     const QImage* image = m_cache.find({index, tile});
-    if (!image && !since.hasExpired(sliceMilliseconds)) image = paintTile(index, tile);
+    // The first one is painted however late it is, or a slow screen would never get anywhere.
+    if (!image && (m_paintedInFrame == 0 || !since.hasExpired(sliceMilliseconds))) {
+      image = paintTile(index, tile);
+      ++m_paintedInFrame;
+    }
     if (image) painter.drawImage(page.topLeft() + m_grid.rect(tile).topLeft(), *image);
     complete = complete && image != nullptr;
   }

@@ -73,6 +73,7 @@ class PageView : public QAbstractScrollArea {
   double m_cachedRatio = 0;
   int m_current = 0;
   int m_wheel = 0;
+  int m_paintedInFrame = 0;
   bool m_arranging = false;
 };
 
