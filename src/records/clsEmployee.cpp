@@ -131,7 +131,7 @@ bool clsEmployee::UpdateEBarCode() {
 QString clsEmployee::unusedCode() {
   const std::shared_ptr<ado::Connection> connection = clsDbConn().GetDbConn();
   for (;;) {
-    const QString code = CreateRandomCode();
+    QString code = CreateRandomCode();
     ado::Recordset holder;
     holder.Open(QStringLiteral("SELECT * FROM EMPLOYEE WHERE EBARCODE=") + sql::quoted(code), connection);
     if (holder.IsEOF()) return code;
