@@ -12,6 +12,12 @@
 
 /// A database with tables like the programs', in a directory of its own. Waits for locks only shortly.
 class AdoFile : public ::testing::Test {
+ public:
+  ~AdoFile() override {
+    connection.reset();
+    store::installEngine(m_before);
+  }
+
  protected:
   AdoFile() : m_before(store::installEngine(&engine)) {
     ado::createDatabase(
@@ -25,11 +31,6 @@ class AdoFile : public ::testing::Test {
                         "days')), HEADIMG BLOB)")});
     connection->Open(connectionString());
   }
-  ~AdoFile() override {
-    connection.reset();
-    store::installEngine(m_before);
-  }
-
   [[nodiscard]] QString file(const char* name) const { return directory.filePath(QString::fromUtf8(name)); }
   [[nodiscard]] QString path() const { return file("vorlent.dat"); }
   [[nodiscard]] QString connectionString(const QString& password = QStringLiteral("secret")) const {

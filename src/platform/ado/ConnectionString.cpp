@@ -48,8 +48,8 @@ ConnectionString parseConnectionString(const QString& text) {
     throw AdoError(AdoErrorNumber::OperationNotAllowed,
                    QStringLiteral("未找到数据库提供程序“%1”").arg(provider));
   }
-  const ConnectionString result{values.value(QStringLiteral("data source")),
-                                values.value(QStringLiteral("jet oledb:database password"))};
+  ConnectionString result{values.value(QStringLiteral("data source")),
+                          values.value(QStringLiteral("jet oledb:database password"))};
   if (result.dataSource.isEmpty()) {
     throw AdoError(AdoErrorNumber::OperationNotAllowed, QStringLiteral("连接字符串没有指明数据库文件"));
   }

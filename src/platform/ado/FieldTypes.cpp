@@ -106,7 +106,7 @@ QString fittingText(const QVariant& assigned, const FieldDefinition& definition)
 
 QDateTime moment(const QVariant& assigned, const FieldDefinition& definition) {
   if (assigned.typeId() == QMetaType::QDate) return {assigned.toDate(), QTime(0, 0)};
-  const QDateTime result = runtime::toDateTime(assigned);
+  QDateTime result = runtime::toDateTime(assigned);
   if (!result.isValid()) mismatch(definition);
   return result;
 }

@@ -14,6 +14,7 @@ namespace {
 std::vector<store::ColumnInfo> columnsOf(store::Database& database, const QString& sql) {
   const std::shared_ptr<store::Statement> statement = database.statement(sql);
   std::vector<store::ColumnInfo> columns;
+  columns.reserve(static_cast<std::size_t>(statement->columnCount()));
   for (int i = 0; i < statement->columnCount(); ++i) columns.push_back(statement->column(i));
   return columns;
 }

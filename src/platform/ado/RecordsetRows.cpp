@@ -36,7 +36,7 @@ Recordset::Rows::Rows(Recordset& owner, const QString& source, std::shared_ptr<C
   m_database = m_connection->database();
   m_query = analyse(*database(), store::translated(source, store::StatementUse::Query));
   load();
-  nameExpressions();
+  typeExpressions();
   m_fields.reserve(m_query.fields.size());
   for (int i = 0; i < static_cast<int>(m_query.fields.size()); ++i) {
     m_fields.emplace_back(m_owner, i, m_query.fields[static_cast<std::size_t>(i)]);
@@ -60,7 +60,7 @@ void Recordset::Rows::load() {
 }
 
 /// Only its values tell the type of an expression.
-void Recordset::Rows::nameExpressions() {
+void Recordset::Rows::typeExpressions() {
   if (m_rowCount == 0) return;
   for (std::size_t i = 0; i < m_query.fields.size(); ++i) {
     FieldDefinition& definition = m_query.fields[i];

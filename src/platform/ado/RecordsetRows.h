@@ -30,10 +30,9 @@ class Recordset::Rows {
 
  private:
   void load();
-  void nameExpressions();
+  void typeExpressions();
   [[nodiscard]] std::shared_ptr<store::Database> database() const;
   [[nodiscard]] QVariant& cell(int column);
-  [[nodiscard]] QVariant key(int column);
   [[nodiscard]] QVariant fetch(int column);
   void requireRow() const;
   void requireChangeable() const;
