@@ -30,7 +30,7 @@ QImage drawLogo() {
   image.fill(Qt::transparent);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.translate(side / 2, side / 2);
+  painter.translate(side / 2.0, side / 2.0);
   painter.setPen(Qt::NoPen);
   painter.setBrush(badge);
   painter.drawEllipse(QPointF(0, 0), 118, 118);

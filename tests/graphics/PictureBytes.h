@@ -29,3 +29,12 @@ inline QByteArray withOrientation(const QByteArray& jpeg, char orientation, bool
   const auto length = static_cast<char>(segment.size() + 2);
   return jpeg.left(2) + QByteArray("\xFF\xE1\0", 3) + QByteArray(1, length) + segment + jpeg.mid(2);
 }
+
+/// A red square of 8 by 8 pixels in print colours, as image editors store it.
+inline QByteArray printColorJpeg() {
+  return QByteArray::fromHex(
+      "ffd8ffee000e41646f626500640000000000ffdb0043000302020302020303030304030304050805050404050a070706"
+      "080c0a0c0c0b0a0b0b0d0e12100d0e110e0b0b1016101113141515150c0f171816141812141514ffc000140800080008"
+      "044311004d11005911004b1100ffc40014000100000000000000000000000000000009ffc40014100100000000000000"
+      "000000000000000000ffda000e0443004d0059004b00003f0054c550aa2a6fffd9");
+}

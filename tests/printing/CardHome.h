@@ -12,10 +12,11 @@
 
 /// A program directory without a database: settings and photo files only.
 class CardHome : public ::testing::Test {
- protected:
+ public:
   CardHome() { runtime::setAppPath(m_directory.path()); }
   ~CardHome() override { runtime::setAppPath({}); }
 
+ protected:
   [[nodiscard]] QString file(const QString& name) const { return m_directory.filePath(name); }
 
   QString write(const QString& name, const QByteArray& bytes) const {

@@ -8,6 +8,7 @@
 #include "graphics/Twips.h"
 #include "report/PagePainter.h"
 #include "report/PhotoStreams.h"
+#include "report/PlaceholderSource.h"
 #include "runtime/ReplacingFile.h"
 #include "runtime/RuntimeError.h"
 

@@ -13,23 +13,6 @@
 namespace report {
 namespace {
 
-using Photo = PlaceholderSource::Photo;
-
-/// Drawn pictures are decoded for 360 dots an inch; the page's own unit is far finer.
-constexpr int twipsPerDot = 4;
-
-QImage placeholder(std::size_t number) {
-  QImage image(1, 1, QImage::Format_RGB32);
-  image.setPixel(0, 0, 0xFF000000U | static_cast<QRgb>(number));
-  return image;
-}
-
-/// Whether the file's bytes mean in a PDF what they mean by themselves.
-bool goesInAsItIs(const graphics::Picture& picture) {
-  const auto& jpeg = picture.jpeg();
-  return jpeg && jpeg->common && jpeg->complete && jpeg->orientation == 1;
-}
-
 /// Writes a photo when the PDF's writer comes to it, so that no second copy is held.
 class PhotoProvider : public QPDFObjectHandle::StreamDataProvider {
  public:
@@ -77,7 +60,7 @@ std::optional<std::size_t> numberOf(QPDFObjectHandle& image) {
   return static_cast<std::size_t>(rgb[0]) << 16 | static_cast<std::size_t>(rgb[1]) << 8 | rgb[2];
 }
 
-void putPhoto(QPDFObjectHandle& image, const Photo& photo) {
+void putPhoto(QPDFObjectHandle& image, const EmbeddedPhoto& photo) {
   image.replaceStreamData(std::make_shared<PhotoProvider>(photo.bytes),
                           QPDFObjectHandle::newName("/DCTDecode"), QPDFObjectHandle::newNull());
   QPDFObjectHandle dictionary = image.getDict();
@@ -89,7 +72,7 @@ void putPhoto(QPDFObjectHandle& image, const Photo& photo) {
 }
 
 /// Whether every photo found exactly one placeholder, and no other single pixel came along.
-bool putPhotos(QPDF& pdf, const std::vector<Photo>& photos) {
+bool putPhotos(QPDF& pdf, const std::vector<EmbeddedPhoto>& photos) {
   std::set<std::size_t> found;
   for (QPDFObjectHandle& object : pdf.getAllObjects()) {
     if (!isOnePixel(object)) continue;
@@ -111,24 +94,13 @@ void write(QPDF& pdf, QIODevice& target) {
 
 }  // namespace
 
-QImage PlaceholderSource::image(const graphics::PicturePointer& picture, QSize pixels) {
-  if (!picture) return {};
-  if (!goesInAsItIs(*picture)) return drawn(picture, pixels);
-  QImage& placed = m_placeholders[picture->bytes()];
-  if (placed.isNull()) {
-    placed = placeholder(m_photos.size());
-    m_photos.push_back({picture->bytes(), picture->size(), picture->jpeg()->components});
-  }
-  return placed;
+QImage placeholderPixel(std::size_t number) {
+  QImage image(1, 1, QImage::Format_RGB32);
+  image.setPixel(0, 0, 0xFF000000U | static_cast<QRgb>(number));
+  return image;
 }
 
-QImage PlaceholderSource::drawn(const graphics::PicturePointer& picture, QSize pixels) {
-  QImage image = m_decoding.image(picture, pixels / twipsPerDot);
-  // A single pixel would be taken for a placeholder.
-  return image.size() == QSize(1, 1) ? image.scaled(2, 2) : image;
-}
-
-bool replacePlaceholders(const QByteArray& pdf, const std::vector<Photo>& photos, QIODevice& target) {
+bool replacePlaceholders(const QByteArray& pdf, const std::vector<EmbeddedPhoto>& photos, QIODevice& target) {
   try {
     QPDF content;
     content.setSuppressWarnings(true);
