@@ -3,11 +3,27 @@
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QMouseEvent>
+#include <QStyledItemDelegate>
 
 #include "graphics/Twips.h"
 
+namespace {
+
+/// Rows with some air between their texts.
+class AiryRows : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return QStyledItemDelegate::sizeHint(option, index) + QSize(0, option.fontMetrics.height() / 3);
+  }
+};
+
+}  // namespace
+
 RecordList::RecordList(QWidget* parent) : QTreeView(parent) {
   setModel(&m_rows);
+  setItemDelegate(new AiryRows(this));
   setRootIsDecorated(false);
   setItemsExpandable(false);
   setUniformRowHeights(true);

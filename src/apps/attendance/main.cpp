@@ -56,6 +56,8 @@ void showText(int argc, char** argv) {
 }
 
 void saveScreenshot(frmMain& form, const QString& fileName) {
+  // The list places its scroll bars a turn after its rows.
+  QCoreApplication::processEvents();
   const bool saved = form.grab().save(fileName, "PNG");
   if (!saved) std::fprintf(stderr, "图片未能写入：%s\n", fileName.toUtf8().constData());
   QCoreApplication::exit(saved ? 0 : 1);
