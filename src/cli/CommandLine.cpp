@@ -47,12 +47,12 @@ CLI::Option* addHome(CLI::App& app) {
 
 CLI::Option* addOption(CLI::App& app, const Option& option) {
   const std::string name = option.name.toStdString();
-  const std::string help = option.help.toStdString();
+  const std::string help =
+      (option.help + (option.required ? QStringLiteral("（必需）") : QString())).toStdString();
   if (std::holds_alternative<bool*>(option.target))
     return app.add_flag(name)->description(help)->group("选项");
   const bool list = std::holds_alternative<QStringList*>(option.target);
-  const QString text = option.valueName + (list ? QStringLiteral("...") : QString()) +
-                       (option.required ? QStringLiteral("（必需）") : QString());
+  const QString text = option.valueName + (list ? QStringLiteral("...") : QString());
   return app.add_option(name)
       ->description(help)
       ->option_text(text.toStdString())

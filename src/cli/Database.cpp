@@ -1,14 +1,24 @@
 #include "cli/Database.h"
 
 #include "ado/Recordset.h"
+#include "foundation/GlobalDefine.h"
+#include "foundation/clsConfiguration.h"
 #include "foundation/clsDbConn.h"
 #include "runtime/Conversions.h"
+#include "runtime/RuntimeError.h"
 
 namespace cli {
 
 std::shared_ptr<ado::Connection> openDatabase() {
   auto connection = clsDbConn().GetDbConn();
-  std::ignore = ado::required(connection).State();
+  try {
+    std::ignore = ado::required(connection).State();
+  } catch (const runtime::RuntimeError& error) {
+    if (!GetDataPath().isEmpty()) throw;
+    throw runtime::RuntimeError(
+        error.number(),
+        QStringLiteral("%1（设置文件“%2”没有指明数据库的目录）").arg(error.description(), settingsFile()));
+  }
   return connection;
 }
 

@@ -1,0 +1,104 @@
+#!/usr/bin/env python3
+"""Measures the programs against their floors and prints the table of bench/README.md.
+
+Usage: bench/compare.py [RUNS]. Builds the preset `bench` first. Every pair is measured in one interleaved run,
+and the table holds the medians.
+"""
+
+import os
+import pathlib
+import statistics
+import subprocess
+import sys
+import tempfile
+import time
+
+PROJECT = pathlib.Path(__file__).resolve().parent.parent
+BIN = PROJECT / "build" / "bench" / "bin"
+
+
+class Result:
+    """One finished process: seconds, peak memory in MB and what it printed as `name value` lines."""
+
+    def __init__(self, command):
+        start = time.monotonic()
+        process = subprocess.Popen([str(part) for part in command], stdout=subprocess.PIPE)
+        output = process.stdout.read().decode()
+        _, status, usage = os.wait4(process.pid, 0)
+        if status != 0:
+            sys.exit(f"{command} failed")
+        self.wall = time.monotonic() - start
+        self.memory = usage.ru_maxrss / 1024
+        pairs = (line.split() for line in output.splitlines())
+        self.printed = {pair[0]: float(pair[1]) for pair in pairs if len(pair) == 2 and pair[0].isascii()}
+
+    @property
+    def seconds(self):
+        return self.printed.get("seconds", self.wall)
+
+
+def median(results, name):
+    return statistics.median(getattr(result, name) for result in results)
+
+
+def compare(ours, floor, runs):
+    """Both commands in turn, after one run of each that warms the caches."""
+    Result(ours), Result(floor)
+    pairs = [(Result(ours), Result(floor)) for _ in range(runs)]
+    return [pair[0] for pair in pairs], [pair[1] for pair in pairs]
+
+
+def row(what, value, limit):
+    print(f"| {what} | {value} | {limit} |")
+
+
+def ratio_row(what, ours, floor, limit):
+    a, b = median(ours, "seconds"), median(floor, "seconds")
+    row(what, f"{a:.3f} s / {b:.3f} s = {a / b:.2f}", limit)
+
+
+def demo(directory, name, *arguments):
+    home = pathlib.Path(directory) / name
+    command = "demo" if arguments else "init"
+    subprocess.run([BIN / "attendancectl", "--home", home, command, *arguments], check=True,
+                   stdout=subprocess.DEVNULL)
+    return home
+
+
+def measure_cards(home, directory, runs):
+    pdf, drawn = directory / "cards.pdf", directory / "drawn.pdf"
+    ours, floor = compare([BIN / "attendancectl", "--home", home, "cards", "--all", "--out", pdf],
+                          [BIN / "bench_cards_drawn", home, drawn], runs)
+    ratio_row("`attendancectl cards --all`, 1,000 photos of 25 KB, whole process / photos drawn", ours, floor, "0.4")
+    photos, pages = floor[0].printed["photo_bytes"], floor[0].printed["pages"]
+    megabyte = 1024 * 1024
+    row("its memory", f"{median(ours, 'memory'):.0f} MB", f"{3 * photos / megabyte + 64:.0f} MB")
+    row("its file beyond the photos, a page", f"{(pdf.stat().st_size - photos) / pages / 1024:.2f} KB", "4 KB")
+    row("memory and file with the photos drawn",
+        f"{median(floor, 'memory'):.0f} MB, {drawn.stat().st_size / megabyte:.1f} MB", "")
+
+
+def main():
+    runs = int(sys.argv[1]) if len(sys.argv) > 1 else 7
+    os.environ.setdefault("QT_QPA_PLATFORM", "offscreen")
+    subprocess.run(["cmake", "--preset", "bench"], cwd=PROJECT, check=True, stdout=subprocess.DEVNULL)
+    subprocess.run(["cmake", "--build", "--preset", "bench"], cwd=PROJECT, check=True, stdout=subprocess.DEVNULL)
+    with tempfile.TemporaryDirectory() as name:
+        directory = pathlib.Path(name)
+        os.environ["XDG_RUNTIME_DIR"] = name
+        many = demo(directory, "many", "--employees", "5000", "--photo-kb", "30", "--month", "2026-01")
+        cards = demo(directory, "cards", "--employees", "1000", "--photo-kb", "25", "--month", "2026-01")
+        empty = demo(directory, "empty")
+        print("| what | measured | at most |\n|---|---|---|")
+        ours, floor = compare([BIN / "bench_employee_list", many], [BIN / "bench_employee_list_floor", many], runs)
+        ratio_row("employee list, 5,000 photos of 30 KB / bare loop", ours, floor, "1.5")
+        measure_cards(cards, directory, runs)
+        ours, floor = compare([BIN / "bench_window_start", empty], [BIN / "bench_window_start_floor"], runs)
+        ratio_row("main window on an empty database, whole process / bare Qt window", ours, floor, "1.5")
+        ours, floor = compare([BIN / "bench_first_preview_page", cards, "1000"],
+                              [BIN / "bench_first_preview_page", cards, "4"], runs)
+        ratio_row("first page of the preview, 1,000 cards / 4 cards", ours, floor, "2")
+
+
+if __name__ == "__main__":
+    main()
