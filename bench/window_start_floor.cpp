@@ -1,5 +1,7 @@
 // The floor under window_start: a window with a menu bar and an empty list, and nothing behind it.
 
+#include <cstdlib>
+
 #include <QApplication>
 #include <QEvent>
 #include <QMainWindow>
@@ -8,13 +10,16 @@
 
 namespace {
 
-class QuitOncePainted : public QObject {
+/// Ends the process at once when the window has been painted: what follows (the list is filled, all is taken
+/// down again) is not measured.
+class EndOncePainted : public QObject {
  public:
   bool eventFilter(QObject* watched, QEvent* event) override {
-    const bool handled = QObject::eventFilter(watched, event);
-    if (event->type() == QEvent::Paint)
-      QMetaObject::invokeMethod(qApp, &QApplication::quit, Qt::QueuedConnection);
-    return handled;
+    if (event->type() == QEvent::Paint) {
+      QMetaObject::invokeMethod(
+          this, [] { std::_Exit(0); }, Qt::QueuedConnection);
+    }
+    return QObject::eventFilter(watched, event);
   }
 };
 
@@ -30,7 +35,7 @@ int main(int argc, char** argv) {
   list->setHeaderLabels({QStringLiteral("编号"), QStringLiteral("姓名"), QStringLiteral("部门")});
   window.setCentralWidget(list);
   window.resize(800, 600);
-  QuitOncePainted painted;
+  EndOncePainted painted;
   window.installEventFilter(&painted);
   window.show();
   return QApplication::exec();
