@@ -91,7 +91,7 @@ void store(const Bound& bound) {
 QString homeOf(const CLI::Option* before, const CLI::Option* behind) {
   const CLI::Option* given = behind->count() > 0 ? behind : before;
   if (given->count() == 0) return {};
-  const QString home = QString::fromStdString(given->results().front());
+  QString home = QString::fromStdString(given->results().front());
   if (home.isEmpty()) throw UsageError(QStringLiteral("--home 不能为空"));
   return home;
 }
