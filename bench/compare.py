@@ -2,7 +2,8 @@
 """Measures the programs against their floors and prints the table of bench/README.md.
 
 Usage: bench/compare.py [RUNS]. Builds the preset `bench` first. Every pair is measured in one interleaved run,
-and the table holds the medians.
+and the table holds the medians. The homes lie in BENCH_DIR, in memory unless it is set: a disk's file system that is
+slow at creating files right after many were deleted would hide what is compared.
 """
 
 import os
@@ -22,11 +23,13 @@ class Result:
 
     def __init__(self, command):
         start = time.monotonic()
-        process = subprocess.Popen([str(part) for part in command], stdout=subprocess.PIPE)
-        output = process.stdout.read().decode()
-        _, status, usage = os.wait4(process.pid, 0)
-        if status != 0:
-            sys.exit(f"{command} failed")
+        with tempfile.TemporaryFile() as messages:
+            process = subprocess.Popen([str(part) for part in command], stdout=subprocess.PIPE, stderr=messages)
+            output = process.stdout.read().decode()
+            _, status, usage = os.wait4(process.pid, 0)
+            if status != 0:
+                messages.seek(0)
+                sys.exit(f"{command} failed: {messages.read().decode()}")
         self.wall = time.monotonic() - start
         self.memory = usage.ru_maxrss / 1024
         pairs = (line.split() for line in output.splitlines())
@@ -83,7 +86,7 @@ def main():
     os.environ.setdefault("QT_QPA_PLATFORM", "offscreen")
     subprocess.run(["cmake", "--preset", "bench"], cwd=PROJECT, check=True, stdout=subprocess.DEVNULL)
     subprocess.run(["cmake", "--build", "--preset", "bench"], cwd=PROJECT, check=True, stdout=subprocess.DEVNULL)
-    with tempfile.TemporaryDirectory() as name:
+    with tempfile.TemporaryDirectory(dir=os.environ.get("BENCH_DIR", "/dev/shm")) as name:
         directory = pathlib.Path(name)
         os.environ["XDG_RUNTIME_DIR"] = name
         many = demo(directory, "many", "--employees", "5000", "--photo-kb", "30", "--month", "2026-01")
