@@ -65,7 +65,7 @@ bool clsEmployeeSet::LoadSet() {
     fillOrName(*employee, row);
     employee->setHeadImg(writePhotoFile(employee->ENUMBER(), row.headImg.Value()));
     Add(employee);
-    runtime::reportProgress(done, 0);
+    runtime::reportProgress(done, rows.RecordCount());
   }
   rows.Close();
   return true;

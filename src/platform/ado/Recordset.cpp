@@ -52,6 +52,10 @@ int Recordset::FieldCount() const {
   return rows().fieldCount();
 }
 
+int Recordset::RecordCount() const {
+  return rows().rowCount();
+}
+
 void Recordset::AddNew() {
   translatingErrors([this] { rows().addNew(); });
 }

@@ -43,6 +43,8 @@ class Recordset {
   /// The column's field by position, from 0.
   [[nodiscard]] Field& Fields(int index);
   [[nodiscard]] int FieldCount() const;
+  /// How many rows there are, deleted ones included.
+  [[nodiscard]] int RecordCount() const;
 
   /// Begins a new row; its fields start as Null. Nothing reaches the database before Update.
   void AddNew();

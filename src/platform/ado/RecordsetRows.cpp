@@ -96,8 +96,8 @@ Field& Recordset::Rows::field(int index) {
   return m_fields[static_cast<std::size_t>(index)];
 }
 
-QVariant& Recordset::Rows::cell(int column) {
-  return m_values[m_current * m_query.fields.size() + static_cast<std::size_t>(column)];
+QVariant& Recordset::Rows::cell(std::size_t row, int column) {
+  return m_values[row * m_query.fields.size() + static_cast<std::size_t>(column)];
 }
 
 QVariant Recordset::Rows::value(int column) {
@@ -105,23 +105,32 @@ QVariant Recordset::Rows::value(int column) {
   const auto assigned = m_assigned.find(column);
   if (assigned != m_assigned.end()) return assigned->second;
   if (m_adding) return {};
-  const QVariant& stored = cell(column);
+  const QVariant& stored = cell(m_current, column);
   if (isLeftInDatabase(stored)) return translatingErrors([&] { return fetch(column); });
   return fromStored(stored, m_query.fields[static_cast<std::size_t>(column)]);
 }
 
 QVariant Recordset::Rows::fetch(int column) {
+  const int keyColumn = m_query.keyColumns[static_cast<std::size_t>(column)];
+  const auto keyOfRow = [&](std::size_t row) {
+    const bool left = !m_deleted[row] && isLeftInDatabase(cell(row, column));
+    return left ? cell(row, keyColumn) : QVariant();
+  };
+  QVariant value;
+  if (!readAhead(column).fetch(*database(), m_current, m_rowCount, keyOfRow, value)) rowGone();
+  return value;
+}
+
+ReadAhead& Recordset::Rows::readAhead(int column) {
+  const auto known = m_readAhead.find(column);
+  if (known != m_readAhead.end()) return known->second;
   const FieldDefinition& definition = m_query.fields[static_cast<std::size_t>(column)];
   const int keyColumn = m_query.keyColumns[static_cast<std::size_t>(column)];
-  const FieldDefinition& keyDefinition = m_query.fields[static_cast<std::size_t>(keyColumn)];
-  const std::shared_ptr<store::Statement> statement = database()->statement(
-      QStringLiteral("SELECT ") + store::quotedName(definition.baseColumn) + QStringLiteral(" FROM ") +
-      store::quotedName(definition.baseTable) + QStringLiteral(" WHERE ") +
-      store::quotedName(keyDefinition.baseColumn) + QStringLiteral("=?"));
-  const store::StatementScope scope(*statement);
-  statement->bind(1, cell(keyColumn));
-  if (!statement->step()) rowGone();
-  return statement->value(0);
+  const QString& keyName = m_query.fields[static_cast<std::size_t>(keyColumn)].baseColumn;
+  const QString sql = QStringLiteral("SELECT ") + store::quotedName(definition.baseColumn) +
+                      QStringLiteral(" FROM ") + store::quotedName(definition.baseTable) +
+                      QStringLiteral(" WHERE ") + store::quotedName(keyName) + QStringLiteral("=?");
+  return m_readAhead.emplace(column, ReadAhead(sql)).first->second;
 }
 
 void Recordset::Rows::assign(int column, const QVariant& value) {
@@ -178,7 +187,7 @@ void Recordset::Rows::insertRow() {
   m_deleted.push_back(false);
   m_current = m_rowCount++;
   m_adding = false;
-  cell(m_query.tableKey) = database()->lastInsertedKey();
+  cell(m_current, m_query.tableKey) = database()->lastInsertedKey();
   keepAssigned();
 }
 
@@ -190,7 +199,7 @@ void Recordset::Rows::changeRow() {
                        QStringLiteral("=?"));
     values.append(toStored(value));
   }
-  values.append(cell(m_query.tableKey));
+  values.append(cell(m_current, m_query.tableKey));
   const QString keyName = m_query.fields[static_cast<std::size_t>(m_query.tableKey)].baseColumn;
   const int changed =
       database()->run(QStringLiteral("UPDATE ") + store::quotedName(m_query.table) + QStringLiteral(" SET ") +
@@ -203,8 +212,9 @@ void Recordset::Rows::changeRow() {
 
 /// Long binaries go back to being read when they are asked for.
 void Recordset::Rows::keepAssigned() {
+  m_readAhead.clear();
   for (const auto& [column, value] : m_assigned) {
-    cell(column) = m_query.deferred(column) && value.isValid() ? leftInDatabase : toStored(value);
+    cell(m_current, column) = m_query.deferred(column) && value.isValid() ? leftInDatabase : toStored(value);
   }
 }
 
@@ -217,7 +227,7 @@ void Recordset::Rows::remove() {
   const int deleted =
       database()->run(QStringLiteral("DELETE FROM ") + store::quotedName(m_query.table) +
                           QStringLiteral(" WHERE ") + store::quotedName(keyName) + QStringLiteral("=?"),
-                      {cell(m_query.tableKey)});
+                      {cell(m_current, m_query.tableKey)});
   if (deleted == 0) rowGone();
   m_deleted[m_current] = true;
 }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "ado/Query.h"
+#include "ado/ReadAhead.h"
 #include "ado/Recordset.h"
 
 namespace ado {
@@ -19,6 +20,7 @@ class Recordset::Rows {
 
   [[nodiscard]] Field& field(const QString& name);
   [[nodiscard]] Field& field(int index);
+  [[nodiscard]] int rowCount() const { return static_cast<int>(m_rowCount); }
   [[nodiscard]] int fieldCount() const { return static_cast<int>(m_fields.size()); }
 
   [[nodiscard]] QVariant value(int column);
@@ -32,8 +34,9 @@ class Recordset::Rows {
   void load();
   void typeExpressions();
   [[nodiscard]] std::shared_ptr<store::Database> database() const;
-  [[nodiscard]] QVariant& cell(int column);
+  [[nodiscard]] QVariant& cell(std::size_t row, int column);
   [[nodiscard]] QVariant fetch(int column);
+  [[nodiscard]] ReadAhead& readAhead(int column);
   void requireRow() const;
   void requireChangeable() const;
   void insertRow();
@@ -55,6 +58,7 @@ class Recordset::Rows {
   std::vector<bool> m_deleted;
   bool m_adding = false;
   std::map<int, QVariant> m_assigned;
+  std::map<int, ReadAhead> m_readAhead;
 };
 
 }  // namespace ado

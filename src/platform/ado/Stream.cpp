@@ -20,8 +20,6 @@ using runtime::ErrorNumber;
 using runtime::RuntimeError;
 
 constexpr mode_t newFileMode = 0666;
-constexpr QFileDevice::Permissions anyWrite =
-    QFileDevice::WriteOwner | QFileDevice::WriteGroup | QFileDevice::WriteOther;
 
 QString systemWords() {
   return QString::fromLocal8Bit(std::strerror(errno));
@@ -32,14 +30,21 @@ QString systemWords() {
 }
 
 /// The superuser would be let through: the permission bits are looked at.
-void requireWritable(const QString& fileName) {
-  const QFileInfo target(fileName);
-  const bool exists = target.exists();
-  if (exists && (target.permissions() & anyWrite) == 0) {
-    cannotWrite(ErrorNumber::FileAccess, fileName, QStringLiteral("文件是只读的"));
+bool anybodyMayWrite(const struct stat& facts) {
+  return (facts.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) != 0;
+}
+
+void requireWritable(const QString& fileName, const QByteArray& path) {
+  struct stat facts {};
+  if (::stat(path.constData(), &facts) == 0) {
+    if (!anybodyMayWrite(facts)) {
+      cannotWrite(ErrorNumber::FileAccess, fileName, QStringLiteral("文件是只读的"));
+    }
+    return;
   }
-  const QFileInfo directory(target.absolutePath());
-  if (!exists && directory.exists() && (directory.permissions() & anyWrite) == 0) {
+  const qsizetype name = path.lastIndexOf('/') + 1;
+  const QByteArray directory = name == 0 ? QByteArray(".") : path.left(name);
+  if (::stat(directory.constData(), &facts) == 0 && !anybodyMayWrite(facts)) {
     cannotWrite(ErrorNumber::FileAccess, fileName, QStringLiteral("目录是只读的"));
   }
 }
@@ -60,10 +65,10 @@ int openForWriting(const QString& fileName, SaveOptions options) {
   if (fileName.contains(QChar(u'\0'))) {
     cannotWrite(ErrorNumber::FileAccess, fileName, QStringLiteral("文件名含有空字符"));
   }
-  requireWritable(fileName);
+  const QByteArray path = QFile::encodeName(fileName);
+  requireWritable(fileName, path);
   const int mode = options == SaveOptions::CreateOverWrite ? O_TRUNC : O_EXCL;
-  const int handle =
-      ::open(QFile::encodeName(fileName).constData(), O_WRONLY | O_CREAT | O_CLOEXEC | mode, newFileMode);
+  const int handle = ::open(path.constData(), O_WRONLY | O_CREAT | O_CLOEXEC | mode, newFileMode);
   if (handle < 0) {
     cannotWrite(errno == EEXIST ? ErrorNumber::FileIo : ErrorNumber::FileAccess, fileName, systemWords());
   }
