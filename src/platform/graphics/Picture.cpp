@@ -102,16 +102,18 @@ QImage Picture::decode(QSize atLeast) const {
 
 PicturePointer LoadPicture(const QString& path) {
   QFile file(path);
-  if (!QFileInfo::exists(path)) {
-    throw runtime::RuntimeError(runtime::ErrorNumber::FileNotFound,
-                                QStringLiteral("找不到图片文件“%1”").arg(path));
-  }
-  if (!file.open(QIODevice::ReadOnly)) {
+  // Unbuffered: the file is read in one piece.
+  if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+    if (!QFileInfo::exists(path)) {
+      throw runtime::RuntimeError(runtime::ErrorNumber::FileNotFound,
+                                  QStringLiteral("找不到图片文件“%1”").arg(path));
+    }
     throw runtime::RuntimeError(runtime::ErrorNumber::FileIo,
                                 QStringLiteral("图片文件“%1”无法打开：%2").arg(path, file.errorString()));
   }
-  if (file.size() > largestFile) refuse(path, QStringLiteral("文件超过 %1").arg(withUnit(largestFile)));
-  QByteArray bytes = file.readAll();
+  const qint64 size = file.size();
+  if (size > largestFile) refuse(path, QStringLiteral("文件超过 %1").arg(withUnit(largestFile)));
+  QByteArray bytes = file.read(size);
   if (file.error() != QFileDevice::NoError) {
     throw runtime::RuntimeError(runtime::ErrorNumber::FileIo,
                                 QStringLiteral("图片文件“%1”无法读取：%2").arg(path, file.errorString()));

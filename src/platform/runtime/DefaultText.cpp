@@ -3,7 +3,9 @@
 namespace runtime {
 
 QDateTime zeroDateTime() {
-  return QDateTime(QDate(1899, 12, 30), QTime(0, 0));
+  // Local time is asked of the system, which is too slow for thousands of records.
+  static const QDateTime zero(QDate(1899, 12, 30), QTime(0, 0));
+  return zero;
 }
 
 bool isZero(const QDateTime& moment) {
