@@ -23,5 +23,5 @@ if [[ -n ${DISPLAY:-}${WAYLAND_DISPLAY:-} ]]; then
   exec "$bin/attendance" --home "$home" "$@"
 fi
 "$bin/attendancectl" --home "$home" cards --all --out "$home/cards.pdf"
-QT_QPA_PLATFORM=offscreen "$bin/attendance" --home "$home" --screenshot "$home/main-window.png"
+QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES=default.warning=false "$bin/attendance" --home "$home" --screenshot "$home/main-window.png"
 echo "There is no display. The cards are in $home/cards.pdf, a screenshot is in $home/main-window.png."

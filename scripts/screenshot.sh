@@ -7,4 +7,5 @@ cd "$(dirname "$0")/.."
 home=$PWD/demo-home
 [[ -f $home/.made ]] || { echo "Run scripts/run.sh first: it makes the demo home." >&2; exit 1; }
 mkdir -p docs/screenshots
-QT_QPA_PLATFORM=offscreen build/release/bin/attendance --home "$home" --screenshot docs/screenshots/main-window.png
+QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES=default.warning=false \
+  build/release/bin/attendance --home "$home" --screenshot docs/screenshots/main-window.png
