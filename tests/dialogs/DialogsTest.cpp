@@ -147,7 +147,7 @@ TEST_F(Dialogs, ColourKeepsRedInTheLowByte) {
 }
 
 TEST_F(Dialogs, FontBoxKeepsHalfPointsAndWhatWasNotChanged) {
-  const QString family = QStringLiteral("DejaVu Sans");
+  const QString family = QStringLiteral("Liberation Sans");
   whenShown<QFontDialog>([&family](QFontDialog& window) {
     EXPECT_TRUE(window.currentFont().bold());
     window.setCurrentFont(QFont(family, window.currentFont().pointSize()));
