@@ -1,6 +1,6 @@
 #include "ado/AdoFile.h"
 #include "ado/ConnectionString.h"
-#include "support/FailingEngine.h"
+#include "support/FullDisk.h"
 
 namespace {
 
@@ -87,6 +87,20 @@ TEST_F(AdoConnection, Transactions) {
   EXPECT_EQ(column("SELECT DNAME FROM Dept"), QStringLiteral("b"));
 }
 
+TEST_F(AdoConnection, AFullDiskIsAnErrorAndLosesNothing) {
+  execute("INSERT INTO Dept(DNAME) VALUES('kept')");
+  const QString large = QStringLiteral("UPDATE Dept SET PASSWORD = hex(zeroblob(100000))");
+  {
+    const support::FullDisk disk(8192);
+    EXPECT_NE(failure([&] { std::ignore = connection->Execute(large); }), 0);
+    EXPECT_NE(words, QString());
+    EXPECT_NE(failure([&] { connection->CopyTo(file("copy.dat")); }), 0);
+  }
+  EXPECT_FALSE(QFile::exists(file("copy.dat")));
+  EXPECT_EQ(column("SELECT DNAME || PASSWORD IS NULL FROM Dept"), QStringLiteral("1"));
+  EXPECT_EQ(connection->CheckPages(), QStringList());
+}
+
 TEST_F(AdoConnection, DatesInStatements) {
   execute("INSERT INTO Employee(ENUMBER, ENTERDATE) VALUES('1', '2026-11-15 23:59:59')");
   execute("INSERT INTO Employee(ENUMBER, ENTERDATE) VALUES('2', #2026/11/15#)");
@@ -99,23 +113,4 @@ TEST_F(AdoConnection, DatesInStatements) {
   EXPECT_EQ(column("SELECT ENUMBER FROM Employee WHERE ENTERDATE LIKE '2026-11-16%'"), QStringLiteral("3"));
   EXPECT_NE(
       failure([this] { execute("INSERT INTO Employee(ENUMBER, ENTERDATE) VALUES('4', '2026-02-30')"); }), 0);
-}
-
-TEST_F(AdoConnection, FailuresOfTheStoreAreAdoErrors) {
-  support::FailingEngine failing;
-  failing.failsOn = [](const QString& what) { return what != QLatin1String("open"); };
-  connection->Close();
-  connection->Open(connectionString());
-  constexpr int diskFull = 13;
-  ado::Recordset rows;
-  EXPECT_EQ(failure([this] { execute("DELETE FROM Dept"); }), diskFull);
-  EXPECT_EQ(failure([&] { open(rows, "SELECT * FROM Dept"); }), diskFull);
-  EXPECT_EQ(rows.State(), ado::ObjectState::Closed);
-  EXPECT_EQ(failure([this] { connection->BeginTrans(); }), diskFull);
-  EXPECT_EQ(failure([this] { connection->CopyTo(file("copy.dat")); }), diskFull);
-  EXPECT_EQ(failure([this] { std::ignore = connection->CheckPages(); }), diskFull);
-  EXPECT_EQ(failure([this] { ado::createDatabase(file("new.dat"), QStringLiteral("x"), {}); }), diskFull);
-  failing.failsOn = [](const QString&) { return true; };
-  EXPECT_EQ(failure([this] { std::ignore = connect(); }), diskFull);
-  connection.reset();
 }

@@ -1,4 +1,3 @@
-#include <tuple>
 
 #include "AdoFile.h"
 
@@ -63,14 +62,6 @@ TEST_F(AdoLongBinaries, ShowWhatWasWrittenToTheRowsAhead) {
   EXPECT_EQ(shown(rows), QVariant(QByteArray("new"))) << "asked for twice";
   rows.MoveNext();
   EXPECT_EQ(shown(rows), expected(21));
-}
-
-TEST_F(AdoLongBinaries, AreFetchedInsideATransactionOfTheConnection) {
-  connection->BeginTrans();
-  ado::Recordset rows;
-  open(rows, "SELECT * FROM Employee");
-  for (int i = 0; i < employees; ++i, rows.MoveNext()) ASSERT_EQ(shown(rows), expected(i)) << i;
-  connection->CommitTrans();
 }
 
 }  // namespace

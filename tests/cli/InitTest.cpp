@@ -1,27 +1,14 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
-#include "cli/NewHome.h"
 #include "cli/Running.h"
-#include "runtime/ProgramDirectory.h"
+#include "support/Files.h"
 
 namespace {
 
 const QString init = QStringLiteral("init");
-
-QByteArray contentOf(const QString& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
-}
-
-void write(const QString& path, const QByteArray& bytes) {
-  QFile file(path);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write(bytes);
-}
 
 /// Everything below the directory, hidden files too.
 QStringList contentsOf(const QTemporaryDir& directory) {
@@ -44,21 +31,13 @@ TEST(Init, MakesAHomeThatWorks) {
 TEST(Init, NeverOverwrites) {
   for (const QString& name : {QStringLiteral("attendance.ini"), QStringLiteral("vorlent.dat")}) {
     const QTemporaryDir home;
-    write(home.filePath(name), "kept");
+    support::writeFile(home.filePath(name), "kept");
     const Outcome outcome = runIn(home.path(), {init});
     EXPECT_EQ(outcome.code, 1);
     EXPECT_TRUE(outcome.err.contains(QStringLiteral("“%1”已经存在").arg(home.filePath(name))));
-    EXPECT_EQ(contentOf(home.filePath(name)), "kept");
+    EXPECT_EQ(support::contentOf(home.filePath(name)), "kept");
     EXPECT_EQ(contentsOf(home), QStringList(name));
   }
-}
-
-TEST(Init, RefusesALinkThatLeadsNowhere) {
-  const QTemporaryDir home;
-  const QString target = home.filePath(QStringLiteral("elsewhere"));
-  ASSERT_TRUE(QFile::link(target, home.filePath(QStringLiteral("vorlent.dat"))));
-  EXPECT_EQ(runIn(home.path(), {init}).code, 1);
-  EXPECT_FALSE(QFile::exists(target));
 }
 
 TEST(Init, RefusesPathsThatTheSettingsCannotHold) {
@@ -74,16 +53,9 @@ TEST(Init, RefusesPathsThatTheSettingsCannotHold) {
   }
 }
 
-TEST(Init, TakesTheLongestPathThatComesBackWhole) {
-  const QString longest = u'/' + QString(253, u'a');
-  EXPECT_EQ(cli::homePathFault(longest), QString());
-  EXPECT_NE(cli::homePathFault(longest + u'a'), QString());
-  EXPECT_EQ(cli::homePathFault(QStringLiteral("/家 中/a=b#[c]")), QString());
-}
-
 TEST(Init, LeavesNothingBehindWhereItCannotWrite) {
   const QTemporaryDir above;
-  write(above.filePath(QStringLiteral("file")), "kept");
+  support::writeFile(above.filePath(QStringLiteral("file")), "kept");
   const Outcome inFile = runIn(above.filePath(QStringLiteral("file/home")), {init});
   EXPECT_EQ(inFile.code, 1);
   EXPECT_TRUE(inFile.err.contains(QStringLiteral("不是目录"))) << inFile.err.toStdString();
@@ -96,19 +68,6 @@ TEST(Init, LeavesNothingBehindWhereItCannotWrite) {
   EXPECT_TRUE(readOnly.err.contains(QStringLiteral("只读"))) << readOnly.err.toStdString();
   EXPECT_TRUE(QDir(locked).isEmpty());
   QFile::setPermissions(locked, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-}
-
-TEST(Init, TakesBackWhatItMadeAndNothingElse) {
-  const QTemporaryDir above;
-  write(above.filePath(QStringLiteral("kept")), "kept");
-  {
-    runtime::setAppPath(above.filePath(QStringLiteral("a/b")));
-    cli::NewHome home(runtime::AppPath());
-    home.make();
-    EXPECT_TRUE(QFile::exists(above.filePath(QStringLiteral("a/b/vorlent.dat"))));
-  }
-  runtime::setAppPath({});
-  EXPECT_EQ(contentsOf(above), QStringList(QStringLiteral("kept")));
 }
 
 }  // namespace

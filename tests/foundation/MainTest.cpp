@@ -1,11 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
-
 #include "foundation/GlobalDefine.h"
 #include "foundation/clsConfiguration.h"
 #include "foundation/mdMain.h"
+#include "support/Files.h"
 #include "support/ScriptedBoxes.h"
 #include "support/TestHome.h"
 
@@ -39,13 +37,6 @@ class StartUp : public ::testing::Test {
     return testing::internal::GetCapturedStderr();
   }
 
-  static void setDataPath(const QString& path) {
-    clsConfiguration settings;
-    settings.setFileName(settingsFile());
-    settings.setGroup(QStringLiteral("DATA"));
-    ASSERT_TRUE(settings.SetItem(QStringLiteral("PATH"), path));
-  }
-
   support::TestHome m_home;
   support::ScriptedBoxes m_boxes;
   int m_made = 0;
@@ -70,27 +61,13 @@ TEST_F(StartUp, RefusesWithoutADatabaseFile) {
   EXPECT_FALSE(QFile::exists(m_home.databaseFile()));
 }
 
-TEST_F(StartUp, RefusesADirectoryOfThatName) {
-  ASSERT_TRUE(QFile::remove(m_home.databaseFile()));
-  ASSERT_TRUE(QDir().mkdir(m_home.databaseFile()));
-  refusal();
-}
-
 TEST_F(StartUp, LooksInTheRootWithoutSettings) {
   ASSERT_TRUE(QFile::remove(settingsFile()));
   EXPECT_NE(refusal().find("：/vorlent.dat"), std::string::npos);
 }
 
-TEST_F(StartUp, TakesThePathAsItStands) {
-  setDataPath(m_home.path() + QStringLiteral("\\"));
-  EXPECT_EQ(databaseFile(), m_home.path() + QStringLiteral("//vorlent.dat"));
-  EXPECT_TRUE(CheckDatabaseFile());
-}
-
 TEST_F(StartUp, LeavesADamagedDatabaseToTheFirstQuery) {
-  QFile file(m_home.databaseFile());
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-  file.close();
+  support::writeFile(m_home.databaseFile(), {});
   EXPECT_TRUE(start());
 }
 

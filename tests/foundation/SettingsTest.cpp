@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include <QFile>
 #include <QTemporaryDir>
 
 #include "foundation/GlobalDefine.h"
@@ -10,6 +9,7 @@
 #include "foundation/clsSchoolArea.h"
 #include "runtime/DefaultText.h"
 #include "runtime/ProgramDirectory.h"
+#include "support/Files.h"
 
 namespace {
 
@@ -26,10 +26,7 @@ class Settings : public ::testing::Test {
     return settings;
   }
 
-  static QByteArray content() {
-    QFile file(settingsFile());
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<no file>");
-  }
+  static QByteArray content() { return support::contentOf(settingsFile()); }
 
   QTemporaryDir m_directory;
 };
@@ -68,17 +65,6 @@ TEST_F(Settings, CutValuesAt254BytesBetweenCharacters) {
   EXPECT_EQ(settings.GetItem(QStringLiteral("K")), u'x' + QString(126, u'中'));
 }
 
-TEST_F(Settings, UnitNameIsWrittenOnlyOnDemandBesideItsNeighbours) {
-  ASSERT_TRUE(group(QStringLiteral("UNIT")).SetItem(QStringLiteral("DSPNAME"), QStringLiteral("卡")));
-  const QByteArray before = content();
-  clsSchoolArea unit;
-  unit.setSNAME(QStringLiteral("一中"));
-  EXPECT_EQ(content(), before);
-  EXPECT_TRUE(unit.SaveInfo());
-  EXPECT_EQ(clsSchoolArea().SNAME(), QStringLiteral("一中"));
-  EXPECT_EQ(group(QStringLiteral("UNIT")).GetItem(QStringLiteral("DSPNAME")), QStringLiteral("卡"));
-}
-
 TEST_F(Settings, ServerSettingsTryAllFourWrites) {
   clsConDbSet server;
   server.setServer(QStringLiteral("s"));
@@ -93,11 +79,6 @@ TEST_F(Settings, ServerSettingsTryAllFourWrites) {
 
   ASSERT_EQ(::chmod(QFile::encodeName(settingsFile()).constData(), 0444), 0);
   EXPECT_FALSE(server.Save());
-}
-
-TEST_F(Settings, DataPathIsTakenAsItStands) {
-  ASSERT_TRUE(group(QStringLiteral("data")).SetItem(QStringLiteral("path"), QStringLiteral("D:\\勤\\")));
-  EXPECT_EQ(GetDataPath(), QStringLiteral("D:\\勤\\"));
 }
 
 TEST(ShortTime, IsEmptyForTheZeroMomentOnly) {

@@ -1,12 +1,12 @@
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QTemporaryDir>
 
 #include "PictureBytes.h"
 #include "graphics/Picture.h"
 #include "graphics/StoredColor.h"
 #include "runtime/RuntimeError.h"
+#include "support/Files.h"
 
 using graphics::Picture;
 using runtime::ErrorNumber;
@@ -24,16 +24,6 @@ int errorOf(const QByteArray& bytes) {
   }
 }
 
-int errorOfFile(const QString& path) {
-  try {
-    std::ignore = graphics::LoadPicture(path);
-    return 0;
-  } catch (const RuntimeError& error) {
-    EXPECT_TRUE(error.description().contains(path));
-    return error.number();
-  }
-}
-
 constexpr int invalidPicture = static_cast<int>(ErrorNumber::InvalidPicture);
 
 /// Where the frame segment of a JPEG file begins.
@@ -47,10 +37,7 @@ TEST(Picture, EveryAcceptedFormatIsReadWhateverItsEnding) {
   QTemporaryDir directory;
   const QString path = directory.filePath(QStringLiteral("photo.dib"));
   for (const char* format : {"bmp", "jpg", "png", "ico"}) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(pictureBytes(format, {40, 30}));
-    file.close();
+    support::writeFile(path, pictureBytes(format, {40, 30}));
     const graphics::PicturePointer picture = graphics::LoadPicture(path);
     EXPECT_EQ(picture->size(), QSize(40, 30)) << format;
     EXPECT_EQ(picture->decode().size(), QSize(40, 30)) << format;
@@ -85,15 +72,6 @@ TEST(Picture, UnreasonableSidesAreRefusedBeforeDecoding) {
   EXPECT_EQ(errorOf(png), invalidPicture);
 }
 
-TEST(Picture, ADamagedBodyGivesNoImageOrAPartButNeverAnError) {
-  const QByteArray png = pictureBytes("png", {400, 300});
-  EXPECT_TRUE(Picture(png.left(png.size() / 2), QStringLiteral("x")).decode().isNull());
-  const QByteArray jpeg = pictureBytes("jpg", {400, 300});
-  const Picture cut(jpeg.left(jpeg.size() - 40), QStringLiteral("x"));
-  EXPECT_FALSE(cut.jpeg()->complete);
-  EXPECT_TRUE(Picture(jpeg, QStringLiteral("x")).jpeg()->complete);
-}
-
 TEST(Picture, APhotoTakenOnItsSideIsTurned) {
   const QByteArray upright = pictureBytes("jpg", {40, 30});
   for (const bool littleEndian : {true, false}) {
@@ -117,13 +95,6 @@ TEST(Picture, DecodingForASmallPlaceScalesDownButNotBelowIt) {
   }
   const Picture turned(withOrientation(pictureBytes("jpg", {800, 600}), 8), QStringLiteral("x"));
   EXPECT_EQ(turned.decode({75, 100}).size(), QSize(75, 100));
-}
-
-TEST(Picture, FilesThatCannotBeReadAreErrorsOfTheLoader) {
-  QTemporaryDir directory;
-  const QString missing = directory.filePath(QStringLiteral("none.jpg"));
-  EXPECT_EQ(errorOfFile(missing), static_cast<int>(ErrorNumber::FileNotFound));
-  EXPECT_EQ(errorOfFile(directory.path()), static_cast<int>(ErrorNumber::FileIo));
 }
 
 TEST(StoredColor, RedIsTheLowByte) {

@@ -7,14 +7,6 @@
 using preview::PageLayout;
 using preview::TileGrid;
 
-TEST(Zoom, ListStartsWithTheFitsAndReachesFromSmallestToLargest) {
-  const auto& list = preview::zoomList();
-  EXPECT_EQ(preview::zoomText(list[0]), QStringLiteral("整页"));
-  EXPECT_EQ(preview::zoomText(list[1]), QStringLiteral("页宽"));
-  EXPECT_EQ(preview::zoomText(list[2]), QStringLiteral("25%"));
-  EXPECT_EQ(preview::zoomText(list.back()), QStringLiteral("800%"));
-}
-
 TEST(Zoom, StepsGoToTheNextPercentageThatLooksDifferent) {
   EXPECT_EQ(preview::percentAbove(100), 125);
   EXPECT_EQ(preview::percentBelow(100), 75);
@@ -41,19 +33,6 @@ TEST(PageLayout, PagesStandBelowEachOtherInTheMiddle) {
   EXPECT_EQ(layout.pageAt(100000), 2);
 }
 
-TEST(PageLayout, FewSmallPagesStandInTheMiddleOfTheView) {
-  const PageLayout layout(2, {100, 100}, {400, 500});
-  EXPECT_EQ(layout.contentSize(), QSize(400, 500));
-  EXPECT_EQ(layout.pageRect(0).top(), 500 - 1 - layout.pageRect(1).bottom());
-  EXPECT_EQ(layout.currentPage(0), 0);
-}
-
-TEST(PageLayout, PagesWiderThanTheViewKeepTheirMargin) {
-  const PageLayout layout(1, {1000, 100}, {400, 500});
-  EXPECT_EQ(layout.contentSize().width(), 1000 + 2 * PageLayout::gap);
-  EXPECT_EQ(layout.pageRect(0).left(), PageLayout::gap);
-}
-
 TEST(PageLayout, ScrollingToTheEndReachesTheLastPage) {
   const PageLayout layout(10, {100, 100}, {400, 500});
   const int end = layout.contentSize().height() - 500;
@@ -65,13 +44,6 @@ TEST(PageLayout, AThousandPagesAtTheLargestZoomStayInsideAScrollBar) {
   const PageLayout layout(1000, {6350, 8980}, {1000, 800});
   EXPECT_EQ(layout.pageAt(layout.pageRect(999).top()), 999);
   EXPECT_GT(layout.pageRect(999).top(), 999 * 8980);
-}
-
-TEST(TileGrid, AnOrdinaryPageIsOneTile) {
-  const TileGrid grid({1588, 2246});
-  EXPECT_EQ(grid.touchedBy({0, 0, 10, 10}), std::vector<int>{0});
-  EXPECT_EQ(grid.rect(0), QRect(0, 0, 1588, 2246));
-  EXPECT_TRUE(grid.touchedBy({0, -100, 1588, 50}).empty());
 }
 
 TEST(TileGrid, AHugePageIsCutIntoSquaresThatCoverItOnce) {

@@ -74,14 +74,6 @@ TEST_F(PageViewTest, CacheStaysBoundedWhileAllPagesAreSeen) {
   EXPECT_LT(view->cache().count(), 200);
 }
 
-TEST_F(PageViewTest, LargestZoomTakesNoMoreThanTheScreenNeeds) {
-  open(3);
-  view->setZoom({Zoom::Fit::None, preview::largestPercent});
-  settle();
-  EXPECT_GT(view->cache().count(), 0);
-  EXPECT_LE(view->cache().bytes(), qsizetype{16} * 1024 * 1024);
-}
-
 TEST_F(PageViewTest, AScreenLargerThanTheCacheIsPaintedOnceAllTheSame) {
   open(1);
   view->resize(4200, 4200);
@@ -91,16 +83,6 @@ TEST_F(PageViewTest, AScreenLargerThanTheCacheIsPaintedOnceAllTheSame) {
   }
   EXPECT_GT(view->cache().bytes(), preview::TileCache::defaultBytes);
   EXPECT_LE(view->cache().bytes(), view->cache().limit());
-}
-
-TEST_F(PageViewTest, AZoomShowsFreshlyPaintedPages) {
-  open(2, {Zoom::Fit::None, 50});
-  const QImage zoomed = grabbed();
-  open(2);
-  view->setZoom({Zoom::Fit::None, 50});
-  view->goToPage(0);
-  settle();
-  EXPECT_EQ(grabbed(), zoomed);
 }
 
 TEST_F(PageViewTest, GoesToPagesAndStopsAtTheEnds) {
@@ -126,43 +108,6 @@ TEST_F(PageViewTest, EveryPageCanBeGoneToWhenAllAreSeenAtOnce) {
   }
 }
 
-TEST_F(PageViewTest, ScrollingMovesTheCurrentPage) {
-  open(5);
-  view->verticalScrollBar()->setValue(view->layout().scrollOf(3));
-  EXPECT_EQ(view->currentPage(), 3);
-  view->verticalScrollBar()->setValue(view->verticalScrollBar()->maximum());
-  EXPECT_EQ(view->currentPage(), 4);
-  for (int notch = 0; notch < 10; ++notch) wheel(1, Qt::NoModifier);
-  EXPECT_LT(view->currentPage(), 4);
-}
-
-TEST_F(PageViewTest, FitsFollowTheSizeOfTheView) {
-  open(3);
-  view->setZoom({Zoom::Fit::Page, 100});
-  EXPECT_EQ(view->layout().pageSize().height(), view->viewport()->height() - 2 * preview::PageLayout::gap);
-  view->setZoom({Zoom::Fit::Width, 100});
-  EXPECT_EQ(view->layout().pageSize().width(), view->viewport()->width() - 2 * preview::PageLayout::gap);
-  const double before = view->shownPercent();
-  view->resize(1000, 600);
-  EXPECT_GT(view->shownPercent(), before);
-  view->setZoom({Zoom::Fit::None, 100});
-  view->resize(500, 600);
-  EXPECT_DOUBLE_EQ(view->shownPercent(), 100);
-}
-
-TEST_F(PageViewTest, ResizingKeepsTheLineThatIsRead) {
-  open(20);
-  view->goToPage(10);
-  view->verticalScrollBar()->setValue(view->verticalScrollBar()->value() +
-                                      view->layout().pageSize().height() / 4);
-  view->resize(500, 600);
-  EXPECT_EQ(view->currentPage(), 10);
-  const double within =
-      static_cast<double>(view->verticalScrollBar()->value() - view->layout().pageRect(10).top()) /
-      view->layout().pageSize().height();
-  EXPECT_NEAR(within, 0.25, 0.03);
-}
-
 TEST_F(PageViewTest, ControlAndWheelZoomsAroundThePointer) {
   open(10);
   view->setZoom({Zoom::Fit::None, 100});
@@ -179,26 +124,4 @@ TEST_F(PageViewTest, ControlAndWheelZoomsAroundThePointer) {
   wheel(-2, Qt::ControlModifier);
   EXPECT_EQ(view->zoom(), (Zoom{Zoom::Fit::None, 75}));
   EXPECT_NEAR(heightRead(), before, 0.01);
-}
-
-TEST_F(PageViewTest, ZoomingIntoAnotherPageMakesItTheCurrentOne) {
-  open(40);
-  view->resize(800, 900);
-  view->setZoom({Zoom::Fit::None, preview::smallestPercent});
-  EXPECT_EQ(view->currentPage(), 0);
-  for (int step = 0; step < 5; ++step) view->zoomIn();
-  EXPECT_GT(view->currentPage(), 0);
-  EXPECT_TRUE(view->layout()
-                  .pageRect(view->currentPage())
-                  .contains(view->layout().pageRect(0).center().x(),
-                            view->verticalScrollBar()->value() + view->viewport()->height() / 2));
-}
-
-TEST_F(PageViewTest, ADocumentWithoutPagesSaysSo) {
-  view = std::make_unique<PageView>(report::Document());
-  view->resize(viewSize);
-  view->goToPage(1);
-  view->zoomIn();
-  EXPECT_EQ(view->currentPage(), 0);
-  EXPECT_GT(darkPixels(grabbed()), 50);
 }

@@ -124,23 +124,6 @@ TEST_F(PreviewWindowTest, PageBoxGoesToThePageAndForgetsNonsense) {
   EXPECT_TRUE(window->isVisible());
 }
 
-TEST_F(PreviewWindowTest, ZoomToolsKeysAndBoxAgree) {
-  open(sampleDocument(2));
-  press(Qt::Key_0, Qt::ControlModifier);
-  EXPECT_EQ(zoomBox->currentText(), QStringLiteral("100%"));
-  use(PreviewToolbar::ZoomIn);
-  EXPECT_EQ(zoomBox->currentText(), QStringLiteral("125%"));
-  press(Qt::Key_Minus, Qt::ControlModifier);
-  press(Qt::Key_Minus, Qt::ControlModifier);
-  EXPECT_EQ(zoomBox->currentText(), QStringLiteral("75%"));
-  emit zoomBox->activated(static_cast<int>(preview::zoomList().size()) - 1);
-  EXPECT_EQ(view->zoom().percent, preview::largestPercent);
-  EXPECT_FALSE(toolbar->tool(PreviewToolbar::ZoomIn)->isEnabled());
-  emit zoomBox->activated(0);
-  EXPECT_EQ(view->zoom().fit, Zoom::Fit::Page);
-  EXPECT_TRUE(toolbar->tool(PreviewToolbar::ZoomIn)->isEnabled());
-}
-
 TEST_F(PreviewWindowTest, PdfIsStoredWhereTheUserSays) {
   open(sampleDocument(2));
   const QString file = directory.filePath(QStringLiteral("卡.pdf"));
@@ -185,11 +168,4 @@ TEST_F(PreviewWindowTest, PrintsOnTheChosenPrinterWithProgressWhenItIsLong) {
   use(PreviewToolbar::Print);
   EXPECT_GT(QFileInfo(file).size(), 0);
   EXPECT_TRUE(boxes.messages().empty());
-}
-
-TEST_F(PreviewWindowTest, FailedJobIsTold) {
-  open(sampleDocument(1), directory.filePath(QStringLiteral("missing/printed.pdf")));
-  boxes.expectMessage(QStringLiteral("无法开始打印"));
-  use(PreviewToolbar::Print);
-  EXPECT_EQ(boxes.messages()[0].title, QStringLiteral("错误"));
 }

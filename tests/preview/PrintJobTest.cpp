@@ -10,10 +10,6 @@
 
 namespace {
 
-bool goOn(int /*done*/, int /*total*/) {
-  return true;
-}
-
 class PrintJobTest : public ::testing::Test {
  protected:
   PrintJobTest() {
@@ -59,18 +55,6 @@ TEST_F(PrintJobTest, CopiesThatThePrinterDoesNotMakeAreMadeHere) {
   EXPECT_EQ(preview::pagesToPrint(printer, 2, 0), (Pages{0, 0, 1, 1}));
 }
 
-TEST_F(PrintJobTest, PaperAndNameComeFromTheDocument) {
-  preview::prepare(printer, sampleDocument(1));
-  EXPECT_EQ(printer.pageLayout().pageSize().id(), QPageSize::A4);
-  EXPECT_EQ(printer.pageLayout().orientation(), QPageLayout::Portrait);
-  EXPECT_EQ(printer.docName(), QStringLiteral("样本: 页/数"));
-  SampleReport wide(1);
-  wide.PaperSize.transpose();
-  preview::prepare(printer, wide.run());
-  EXPECT_EQ(printer.pageLayout().orientation(), QPageLayout::Landscape);
-  EXPECT_EQ(printer.pageLayout().pageSize().id(), QPageSize::A4);
-}
-
 TEST_F(PrintJobTest, PrintsTheChosenPagesAndTellsProgress) {
   std::vector<std::pair<int, int>> told;
   const report::Document document = sampleDocument(5);
@@ -84,22 +68,11 @@ TEST_F(PrintJobTest, PrintsTheChosenPagesAndTellsProgress) {
   EXPECT_EQ(told, (std::vector<std::pair<int, int>>{{0, 3}, {1, 3}, {2, 3}, {3, 3}}));
 }
 
-TEST_F(PrintJobTest, StoppedJobPrintsNoFurtherPage) {
-  int asked = 0;
-  const bool printed = preview::printPages(printer, sampleDocument(5), {0, 1, 2}, [&asked](int done, int) {
-    ++asked;
-    return done < 1;
-  });
-  EXPECT_FALSE(printed);
-  EXPECT_EQ(asked, 2);
-  EXPECT_EQ(pagesIn(file), 1);
-}
-
 TEST_F(PrintJobTest, JobThatCannotStartNamesItsTarget) {
   const QString nowhere = directory.filePath(QStringLiteral("missing/out.pdf"));
   printer.setOutputFileName(nowhere);
   try {
-    std::ignore = preview::printPages(printer, sampleDocument(1), {0}, goOn);
+    std::ignore = preview::printPages(printer, sampleDocument(1), {0}, [](int, int) { return true; });
     FAIL() << "printed to a directory that is not there";
   } catch (const runtime::RuntimeError& error) {
     EXPECT_TRUE(error.description().contains(nowhere));

@@ -1,9 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QSignalSpy>
-#include <QTest>
-#include <QToolButton>
-
 #include "preview/PreviewToolbar.h"
 
 using preview::PreviewToolbar;
@@ -35,29 +31,6 @@ TEST(PreviewToolbar, ToolsBoxesAndSeparatorsStandAtTheirPlaces) {
   EXPECT_EQ(toolbar.widgetForAction(toolbar.actions().at(13))->objectName(), QStringLiteral("cmbZoom"));
   EXPECT_EQ(toolbar.widgetForAction(toolbar.actions().at(17))->objectName(), QStringLiteral("txtPage"));
   EXPECT_EQ(toolbar.actions().at(21)->text(), QStringLiteral("存为PDF"));
-}
-
-TEST(PreviewToolbar, CaptionsStandOnTheButtonsWithTheirDots) {
-  const PreviewToolbar toolbar(localized());
-  const auto button = [&toolbar](int index) {
-    return qobject_cast<QToolButton*>(toolbar.widgetForAction(toolbar.actions().at(index)));
-  };
-  EXPECT_EQ(button(2)->text(), QStringLiteral("打印..."));
-  EXPECT_EQ(button(19)->text(), QStringLiteral("后退"));
-  EXPECT_EQ(button(20)->text(), QStringLiteral("前进"));
-  EXPECT_EQ(button(20)->toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
-  EXPECT_EQ(button(0)->toolButtonStyle(), Qt::ToolButtonIconOnly);
-}
-
-TEST(PreviewToolbar, IconsAreDrawnAtTheSizeAskedForAndPalerWhenDisabled) {
-  const PreviewToolbar toolbar(localized());
-  const QIcon icon = toolbar.tool(PreviewToolbar::Next)->icon();
-  const QImage normal = icon.pixmap(QSize(88, 88)).toImage();
-  const QImage disabled = icon.pixmap(QSize(88, 88), QIcon::Disabled).toImage();
-  EXPECT_EQ(normal.size(), QSize(88, 88));
-  const QPoint tip(44, 58);
-  ASSERT_GT(qAlpha(normal.pixel(tip)), 200);
-  EXPECT_LT(qGray(normal.pixel(tip)), qGray(disabled.pixel(tip)));
 }
 
 TEST(PreviewToolbar, PageTextsAreUnderstood) {

@@ -3,12 +3,12 @@
 #include <gtest/gtest.h>
 #include <memory>
 
-#include <QFile>
 #include <QTemporaryDir>
 
 #include "../graphics/PictureBytes.h"
 #include "records/clsEmployeeSet.h"
 #include "runtime/ProgramDirectory.h"
+#include "support/Files.h"
 
 /// A program directory without a database: settings and photo files only.
 class CardHome : public ::testing::Test {
@@ -20,8 +20,7 @@ class CardHome : public ::testing::Test {
   [[nodiscard]] QString file(const QString& name) const { return m_directory.filePath(name); }
 
   QString write(const QString& name, const QByteArray& bytes) const {
-    QFile target(file(name));
-    EXPECT_TRUE(target.open(QIODevice::WriteOnly) && target.write(bytes) == bytes.size());
+    support::writeFile(file(name), bytes);
     return file(name);
   }
 

@@ -3,26 +3,18 @@
 #include <gtest/gtest.h>
 #include <vector>
 
-#include <QFile>
 #include <QTemporaryDir>
 
 #include "profile/Profile.h"
+#include "support/Files.h"
 
 /// A profile file in a directory of its own.
 class ProfileTest : public ::testing::Test {
  protected:
   [[nodiscard]] QString path() const { return m_directory.filePath(QStringLiteral("a.ini")); }
 
-  void fill(const QByteArray& content) const {
-    QFile file(path());
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_EQ(file.write(content), content.size());
-  }
-
-  [[nodiscard]] QByteArray content() const {
-    QFile file(path());
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<no file>");
-  }
+  void fill(const QByteArray& content) const { support::writeFile(path(), content); }
+  [[nodiscard]] QByteArray content() const { return support::contentOf(path()); }
 
   [[nodiscard]] std::string get(const QByteArray& section, const QByteArray& key, int size = 255) const {
     std::vector<char> buffer(static_cast<std::size_t>(size), '!');

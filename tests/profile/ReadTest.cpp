@@ -27,11 +27,6 @@ TEST_F(ProfileRead, TakesCommentsAndBrokenLinesForWhatTheyAre) {
   EXPECT_EQ(get("b", "k"), "9");
 }
 
-TEST_F(ProfileRead, ReadsTheLastLineWithoutANewline) {
-  fill("[a]\r\nk=v");
-  EXPECT_EQ(get("a", "k"), "v");
-}
-
 TEST_F(ProfileRead, SurvivesForeignBytes) {
   const QByteArray bytes("\xef\xbb\xbf[a]\nk=hidden\n[b]\nk=v\0tail\n\0\n[c]\nx\0=1\nk=2\n", 44);
   fill(bytes);
@@ -57,11 +52,6 @@ TEST_F(ProfileRead, CutsAtTheBuffersSize) {
   char untouched = '!';
   EXPECT_EQ(profile::GetPrivateProfileStringA("a", "k", "", &untouched, 0, path()), 0);
   EXPECT_EQ(untouched, '!');
-}
-
-TEST_F(ProfileRead, GivesTheDefaultWithoutAFileAndCreatesNone) {
-  EXPECT_EQ(get("a", "k"), "<default>");
-  EXPECT_FALSE(QFile::exists(path()));
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 #include "records/RecordsFixture.h"
 #include "records/clsDeptSet.h"
-#include "support/Thrown.h"
 
 namespace {
 
@@ -32,27 +31,6 @@ TEST_F(DeptSet, SkipsWhatFailsAndGoesOn) {
   EXPECT_EQ(departments.Item(QStringLiteral("0"))->DNAME(), QStringLiteral("big"));
   EXPECT_EQ(departments.Count(), 3) << "a second department without a number finds its key taken";
   EXPECT_TRUE(departments.firstFailure().contains(QStringLiteral("40000")));
-}
-
-TEST_F(DeptSet, IsEmptyWithItsReasonWithoutADatabase) {
-  const QString path = loseDatabase();
-  const clsDeptSet departments;
-  EXPECT_EQ(departments.Count(), 0);
-  EXPECT_TRUE(departments.firstFailure().contains(path));
-}
-
-TEST_F(DeptSet, AddAssignsInOrderAndRefusesATakenKey) {
-  addDepartment(QStringLiteral("甲"));
-  clsDeptSet departments;
-  const auto added = departments.Add(0, QStringLiteral("甲"), QStringLiteral("p"), QStringLiteral("k"));
-  EXPECT_EQ(added->ID(), 1) << "the name found its number";
-  EXPECT_EQ(departments.Item(QStringLiteral("K")), added);
-  departments.Add(1, QStringLiteral("乙"), {}, {});
-  EXPECT_EQ(departments.Count(), 3);
-  EXPECT_EQ(support::thrownNumber([&] { departments.Add(1, QStringLiteral("丙"), {}, QStringLiteral("K")); }),
-            runtime::ErrorNumber::DuplicateKey);
-  departments.Remove(QStringLiteral("k"));
-  EXPECT_EQ(departments.Item(2)->DNAME(), QStringLiteral("乙"));
 }
 
 }  // namespace

@@ -15,34 +15,12 @@ class Dept : public RecordsTest {
   }
 };
 
-TEST_F(Dept, AssigningTheNumberLoadsNameAndCount) {
-  addEmployee(QStringLiteral("A1"));
-  addEmployee(QStringLiteral("A2"));
-  clsDept department;
-  department.setID(1);
-  EXPECT_EQ(department.DNAME(), QStringLiteral("Sales"));
-  EXPECT_EQ(department.EMPLOYEENUM(), 2);
-  department.setID(2);
-  EXPECT_EQ(department.EMPLOYEENUM(), 0);
-}
-
 TEST_F(Dept, AssigningTheNameFindsTheNumberWhateverItsCase) {
   clsDept department;
   department.setDNAME(QStringLiteral("sALES"));
   EXPECT_EQ(department.ID(), 1);
   department.setDNAME(QStringLiteral("unknown"));
   EXPECT_EQ(department.ID(), 1) << "a name that is not stored leaves the number";
-}
-
-TEST_F(Dept, LoadsSucceedWithoutARowButNotWithoutAKey) {
-  clsDept department;
-  EXPECT_FALSE(department.LoadByID());
-  EXPECT_FALSE(department.LoadByName());
-  department.setDNAME(QStringLiteral("kept"));
-  department.setID(99);
-  EXPECT_TRUE(department.LoadByID());
-  EXPECT_EQ(department.DNAME(), QStringLiteral("kept"));
-  EXPECT_EQ(department.EMPLOYEENUM(), 0);
 }
 
 TEST_F(Dept, AppendsANewNameOnceAndDoesNotReadTheNumberBack) {
@@ -106,35 +84,6 @@ TEST_F(Dept, FailsOnASingleQuoteAndKeepsTheReason) {
   EXPECT_TRUE(department.lastFailure().contains(QStringLiteral("x')")));
   department.setID(1);
   EXPECT_TRUE(department.lastFailure().isEmpty()) << "a success forgets the failure before";
-}
-
-TEST_F(Dept, NumbersBeyond16BitsAreAFailure) {
-  m_home.execute(QStringLiteral("INSERT INTO Dept(ID, DNAME) VALUES(40000,'big')"));
-  clsDept department;
-  department.setDNAME(QStringLiteral("big"));
-  EXPECT_FALSE(department.LoadByName());
-  EXPECT_EQ(department.ID(), 0);
-  EXPECT_TRUE(department.lastFailure().contains(QStringLiteral("40000")));
-}
-
-TEST_F(Dept, CountIsUnknownWhenItCannotBeMade) {
-  m_home.execute(QStringLiteral("DROP TABLE Employee"));
-  clsDept department;
-  department.setID(1);
-  EXPECT_EQ(department.DNAME(), QStringLiteral("Sales")) << "the department itself is loaded";
-  EXPECT_EQ(department.EMPLOYEENUM(), -1);
-  EXPECT_FALSE(department.lastFailure().isEmpty());
-}
-
-TEST_F(Dept, CarriesWhyTheDatabaseCannotBeOpened) {
-  const QString path = loseDatabase();
-  clsDept department;
-  department.setID(1);
-  EXPECT_FALSE(department.LoadByID());
-  EXPECT_TRUE(department.lastFailure().contains(path)) << department.lastFailure().toStdString();
-  EXPECT_FALSE(department.UpdateToDb());
-  EXPECT_FALSE(department.Remove(QStringLiteral("1")));
-  EXPECT_TRUE(department.lastFailure().contains(path));
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include "records/RecordsFixture.h"
 #include "records/clsEmployeeSet.h"
 #include "runtime/Progress.h"
-#include "support/FullDisk.h"
 #include "support/Thrown.h"
 
 namespace {
@@ -24,12 +23,6 @@ class Steps : public runtime::ProgressListener {
   void progress(int done, int) override { seen += done; }
   QList<int> seen;
 };
-
-TEST_F(EmployeeSet, IsEmptyWithoutEmployees) {
-  clsEmployeeSet employees;
-  EXPECT_TRUE(employees.LoadSet());
-  EXPECT_EQ(employees.Count(), 0);
-}
 
 TEST_F(EmployeeSet, LoadsAllThatHaveADepartmentWithTheirPhotos) {
   addEmployee(QStringLiteral("B2"), QStringLiteral("x7"));
@@ -68,27 +61,6 @@ TEST_F(EmployeeSet, MembersHeldElsewhereKeepTheirPhotos) {
   EXPECT_EQ(photoFiles(), QStringList(QStringLiteral("A2.jpg")));
 }
 
-TEST_F(EmployeeSet, AddKeysByNumberAndRefusesItTwice) {
-  clsEmployeeSet employees;
-  const auto employee = std::make_shared<clsEmployee>();
-  employee->setENUMBER(QStringLiteral("A1"));
-  EXPECT_EQ(employees.Add(employee), employee);
-  EXPECT_EQ(support::thrownNumber([&] { employees.Add(employee); }), ErrorNumber::DuplicateKey);
-  employees.Add(std::make_shared<clsEmployee>());
-  employees.Add(std::make_shared<clsEmployee>());
-  EXPECT_EQ(employees.Count(), 3);
-}
-
-TEST_F(EmployeeSet, LoadingTwiceFailsOnTheFirstNumber) {
-  addEmployee(QStringLiteral("A1"));
-  clsEmployeeSet employees;
-  employees.LoadSet();
-  const auto error = support::thrown([&] { employees.LoadSet(); });
-  EXPECT_EQ(error.number(), static_cast<int>(ErrorNumber::DuplicateKey));
-  EXPECT_TRUE(error.description().contains(QStringLiteral("A1")));
-  EXPECT_EQ(employees.Count(), 1);
-}
-
 TEST_F(EmployeeSet, ErrorsNameTheEmployee) {
   addEmployee(QStringLiteral("A1"));
   m_home.insertEmployee(QStringLiteral("P2"), QStringLiteral("李四"), 1, {}, QStringLiteral("1"));
@@ -100,23 +72,6 @@ TEST_F(EmployeeSet, ErrorsNameTheEmployee) {
   m_home.execute(QStringLiteral("UPDATE Employee SET ENAME = NULL WHERE ENUMBER = '../x'"));
   EXPECT_EQ(failure().find("编号为[../x]的员工无法载入："), 0U);
   EXPECT_TRUE(photoFiles().isEmpty());
-}
-
-TEST_F(EmployeeSet, AFullDiskLeavesNoPhotoBehind) {
-  addEmployee(QStringLiteral("A1"));
-  m_home.insertEmployee(QStringLiteral("A2"), QStringLiteral("李四"), 1, QByteArray(30000, 'x'),
-                        QStringLiteral("1"));
-  clsEmployeeSet employees;
-  {
-    const support::FullDisk disk(10000);
-    EXPECT_TRUE(support::thrown([&] { employees.LoadSet(); }).description().contains(QStringLiteral("[A2]")));
-  }
-  EXPECT_EQ(photoFiles(), QStringList(QStringLiteral("A1.jpg"))) << "what was loaded stays loaded";
-}
-
-TEST_F(EmployeeSet, CarriesWhyTheDatabaseCannotBeOpened) {
-  const QString path = loseDatabase();
-  EXPECT_NE(failure().find(path.toStdString()), std::string::npos);
 }
 
 }  // namespace

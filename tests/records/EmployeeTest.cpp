@@ -16,16 +16,6 @@ class EmployeeLoad : public RecordsTest {
   }
 };
 
-TEST(EmployeeProperties, TrimNameAndBarcodeButNotTheNumber) {
-  clsEmployee employee;
-  employee.setENAME(QStringLiteral(" Li "));
-  employee.setEBARCODE(QStringLiteral(" ab12 "));
-  employee.setENUMBER(QStringLiteral(" 7 "));
-  EXPECT_EQ(employee.ENAME(), QStringLiteral("Li"));
-  EXPECT_EQ(employee.EBARCODE(), QStringLiteral("AB12"));
-  EXPECT_EQ(employee.ENUMBER(), QStringLiteral(" 7 "));
-}
-
 TEST_F(EmployeeLoad, FillsTheRecordAndWritesThePhotoThatGoesWithIt) {
   addEmployee(QStringLiteral("A001"), QStringLiteral("ab3"));
   {
@@ -65,23 +55,12 @@ TEST_F(EmployeeLoad, FindsNobodyWithoutNumberRowOrDepartment) {
   EXPECT_TRUE(photoFiles().isEmpty());
 }
 
-TEST_F(EmployeeLoad, FailsOnEmptyColumnsAndLeavesNoFile) {
-  m_home.insertEmployee(QStringLiteral("nophoto"), QStringLiteral("李"), 1, {}, QStringLiteral("1"));
-  m_home.insertEmployee(QStringLiteral("nocode"), QStringLiteral("李"), 1, support::TestHome::tinyJpeg());
-  clsEmployee employee;
-  EXPECT_EQ(load(employee, QStringLiteral("nocode")), clsEmployee::Failed);
-  EXPECT_EQ(load(employee, QStringLiteral("nophoto")), clsEmployee::Failed);
-  EXPECT_TRUE(employee.lastFailure().startsWith(QStringLiteral("编号为[nophoto]的员工没有照片：")))
-      << employee.lastFailure().toStdString();
-  EXPECT_TRUE(photoFiles().isEmpty());
-}
-
 TEST_F(EmployeeLoad, FailsOnNumbersThatAreNoFileNameAndTouchesNoOtherDirectory) {
   const QString outside = m_home.file(QStringLiteral("x.jpg"));
   ASSERT_TRUE(QDir(m_home.path()).mkdir(QStringLiteral("app")));
-  write(outside, "kept");
+  support::writeFile(outside, "kept");
   runtime::setAppPath(m_home.file(QStringLiteral("app")));
-  write(settingsFile(), "[DATA]\r\nPATH=" + m_home.path().toUtf8() + "\r\n");
+  support::writeFile(settingsFile(), "[DATA]\r\nPATH=" + m_home.path().toUtf8() + "\r\n");
   for (const char* text : {"../x", "..\\x", "a/b"}) {
     const QString number = QString::fromLatin1(text);
     addEmployee(number);
@@ -124,7 +103,7 @@ TEST_F(EmployeeLoad, FailsOnSingleQuotesAndWithoutADatabase) {
 TEST_F(EmployeeLoad, GoingDeletesOnlyANormalFile) {
   const QString directory = m_home.file(QStringLiteral("dir"));
   ASSERT_TRUE(QDir().mkdir(directory));
-  write(m_home.file(QStringLiteral("copy.jpg")), "x");
+  support::writeFile(m_home.file(QStringLiteral("copy.jpg")), "x");
   for (const QString& path : {directory, m_home.file(QStringLiteral("missing")), QStringLiteral("  "),
                               u' ' + m_home.file(QStringLiteral("copy.jpg")) + u' '}) {
     clsEmployee employee;

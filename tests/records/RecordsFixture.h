@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QFile>
 
 #include "foundation/GlobalDefine.h"
+#include "support/Files.h"
 #include "support/ScriptedBoxes.h"
 #include "support/TestHome.h"
 
@@ -22,14 +22,7 @@ class RecordsTest : public ::testing::Test {
   }
 
   [[nodiscard]] QByteArray content(const QString& name) const {
-    QFile file(m_home.file(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<no file>");
-  }
-
-  void write(const QString& path, const QByteArray& bytes) const {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_EQ(file.write(bytes), bytes.size());
+    return support::contentOf(m_home.file(name));
   }
 
   [[nodiscard]] QStringList photoFiles() const {

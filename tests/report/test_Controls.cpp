@@ -50,11 +50,6 @@ report::Control imageControl(const graphics::PicturePointer& picture) {
 
 }  // namespace
 
-TEST(Text, KeepsItsSizeWhenItFits) {
-  EXPECT_EQ(textFor(QStringLiteral("张三"), 10.5).font.size, 10.5);
-  EXPECT_EQ(textFor(QStringLiteral("张三"), 4).font.size, 4);
-}
-
 TEST(Text, IsShrunkByHalfPointsOnlyAsFarAsNeeded) {
   const TextPrimitive text = textFor(QStringLiteral("信息技术组"), 14);
   EXPECT_EQ(text.text, QStringLiteral("信息技术组"));
@@ -72,10 +67,6 @@ TEST(Text, IsElidedWhenTheSmallestSizeDoesNotHelp) {
   EXPECT_TRUE(text.text.endsWith(QChar(0x2026)));
   EXPECT_LE(widthOf(text), 1000);
   EXPECT_LE(widthOf(textFor(QStringLiteral("一个放不进的名称"), 4, {200, 300})), 200);
-}
-
-TEST(Text, IsNoHigherThanItsBox) {
-  EXPECT_LE(textFor(QStringLiteral("名"), 72).font.size, 15);
 }
 
 TEST(Text, UnreasonableSizesAreStillDrawn) {
@@ -101,13 +92,6 @@ TEST(Image, KeepsItsProportionsInTheMiddleOfItsBox) {
   const auto empty = std::get<report::PicturePrimitive>(primitivesOf(imageControl(nullptr)).at(0).shape);
   EXPECT_EQ(empty.picture, nullptr);
   EXPECT_EQ(empty.box, QRectF(500, 700, 2000, 1000));
-}
-
-TEST(Barcode, FifteenDigitsTakeTheDenseForm) {
-  const report::BarcodeSymbol symbol = report::encodeCode128(QStringLiteral("123456789012345"));
-  EXPECT_EQ(symbol.modules, 134);
-  EXPECT_EQ(symbol.bars.front().left, 0);
-  EXPECT_EQ(symbol.bars.back().left + symbol.bars.back().width, 134);
 }
 
 TEST(Barcode, RefusesWhatScannersCannotRead) {

@@ -1,18 +1,11 @@
 #include <gtest/gtest.h>
 
 #include "SmallReport.h"
-#include "runtime/Progress.h"
 #include "runtime/RuntimeError.h"
 
 using report::Document;
 
 namespace {
-
-class Counter : public runtime::ProgressListener {
- public:
-  void progress(int done, int total) override { seen.emplace_back(done, total); }
-  std::vector<std::pair<int, int>> seen;
-};
 
 void addHeaderAndFooter(SmallReport& small) {
   small.PageHeader.Height = 500;
@@ -57,14 +50,6 @@ TEST(Layout, HeaderAndFooterStandOnEveryPageAndTakeTheirRoom) {
   }
 }
 
-TEST(Layout, NoDataGivesOnePageWithHeaderAndFooter) {
-  SmallReport small;
-  addHeaderAndFooter(small);
-  const Document document = small.run();
-  ASSERT_EQ(document.pageCount(), 1);
-  EXPECT_EQ(textsOf(document, 0), QStringList({QStringLiteral("标题"), QStringLiteral("页脚")}));
-}
-
 TEST(Layout, ABandHigherThanThePageStandsAlone) {
   SmallReport small;
   small.Detail.Height = 9000;
@@ -93,21 +78,6 @@ TEST(Layout, WhatOneBandSetsDoesNotReachTheNext) {
   EXPECT_FALSE(texts[2].second.font.bold);
 }
 
-TEST(Layout, ASecondRunStartsFromTheDesignAndLeavesTheFirstDocumentAlone) {
-  SmallReport small;
-  small.bandCount = 1;
-  small.fill = [](SmallReport&, int) {};
-  small.start = [](SmallReport& report) {
-    report.Detail.control(QStringLiteral("lblText")).Caption = QStringLiteral("第一次");
-  };
-  const Document first = small.run();
-  EXPECT_EQ(small.Detail.control(QStringLiteral("lblText")).Caption, QStringLiteral("第一次"));
-  small.start = nullptr;
-  const Document second = small.run();
-  EXPECT_EQ(textsOf(first, 0), QStringList(QStringLiteral("第一次")));
-  EXPECT_TRUE(textsOf(second, 0).isEmpty());
-}
-
 TEST(Layout, AnErrorInAnEventReachesTheCallerAndTheNextRunIsWhole) {
   SmallReport small;
   small.bandCount = 2;
@@ -115,46 +85,4 @@ TEST(Layout, AnErrorInAnEventReachesTheCallerAndTheNextRunIsWhole) {
   EXPECT_THROW(std::ignore = small.run(), runtime::RuntimeError);
   small.fill = nullptr;
   EXPECT_EQ(textsOf(small.run(), 0), QStringList({QStringLiteral("1"), QStringLiteral("2")}));
-}
-
-TEST(Layout, EveryBandReportsProgress) {
-  SmallReport small;
-  small.bandCount = 3;
-  Counter counter;
-  const runtime::ProgressScope scope(counter);
-  std::ignore = small.run();
-  EXPECT_EQ(counter.seen, (std::vector<std::pair<int, int>>{{1, 3}, {2, 3}, {3, 3}}));
-}
-
-TEST(Layout, ABandKeepsOnlyWhatItChanged) {
-  SmallReport small;
-  small.Detail.Controls.push_back(SmallReport::label(QStringLiteral("lblOther"), {0, 0, 500, 200}));
-  report::Section filled = small.Detail;
-  EXPECT_TRUE(report::captureBand(small.Detail, filled).changes.empty());
-  filled.Controls[1].Caption = QStringLiteral("甲");
-  const report::Band band = report::captureBand(small.Detail, filled);
-  ASSERT_EQ(band.changes.size(), 1U);
-  EXPECT_EQ(band.changes[0].control, 1U);
-  EXPECT_TRUE(std::holds_alternative<QString>(band.changes[0].value));
-  filled.Controls.pop_back();
-  EXPECT_THROW(std::ignore = report::captureBand(small.Detail, filled), runtime::RuntimeError);
-}
-
-TEST(Layout, PagesThatDoNotExistAreAnError) {
-  EXPECT_EQ(Document().pageCount(), 0);
-  EXPECT_THROW(std::ignore = Document().page(0), runtime::RuntimeError);
-  SmallReport small;
-  EXPECT_THROW(std::ignore = small.run().page(-1), runtime::RuntimeError);
-}
-
-TEST(Toolbar, TextsStandAtTheirIndices) {
-  report::Toolbar toolbar;
-  report::LocalizeToolbar(toolbar);
-  EXPECT_EQ(toolbar.Tools[0].Tooltip, QStringLiteral("各页目录"));
-  EXPECT_EQ(toolbar.Tools[2].Caption, QStringLiteral("打印..."));
-  EXPECT_EQ(toolbar.Tools[16].Tooltip, QStringLiteral("下一页"));
-  EXPECT_EQ(toolbar.Tools[20].Caption, QStringLiteral("前进"));
-  for (const std::size_t separator : {1, 3, 5, 7, 10, 14, 18}) {
-    EXPECT_TRUE(toolbar.Tools[separator].Tooltip.isEmpty()) << separator;
-  }
 }

@@ -69,24 +69,6 @@ TEST(PagePainter, TextsStandInTheirBoxesByAlignment) {
   EXPECT_GT(right.center().y(), middle.center().y() + 5);
 }
 
-TEST(PagePainter, TextsTakeTheirColour) {
-  auto control = textControl(Qt::AlignLeft);
-  control.ForeColor = 0x0000FF;
-  control.Caption = QStringLiteral("■");
-  control.Font.size = 20;
-  const QImage image = paint({control});
-  const QPoint ink = inked(image).center();
-  EXPECT_GT(qRed(image.pixel(ink)), 200);
-  EXPECT_LT(qBlue(image.pixel(ink)), 100);
-}
-
-TEST(PagePainter, PicturesAreDrawnIntoTheirBoxes) {
-  const QImage image = paint({picture("jpg", {40, 80}, {500, 500, 1000, 1000})});
-  EXPECT_EQ(image.pixelColor(60, 100), QColor(Qt::white));
-  EXPECT_GT(image.pixelColor(115, 100).red(), 200);
-  EXPECT_LT(image.pixelColor(85, 100).red(), 100);
-}
-
 TEST(PagePainter, WhatCannotBeDecodedIsAnEmptyFrame) {
   auto damaged = picture("png", {400, 400}, {500, 500, 1000, 1000});
   const QByteArray bytes = damaged.Picture->bytes();

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -9,8 +8,9 @@
 #include "../graphics/PictureBytes.h"
 #include "SmallReport.h"
 #include "report/Pdf.h"
-#include "report/PhotoStreams.h"
 #include "runtime/RuntimeError.h"
+#include "support/Files.h"
+#include "support/FullDisk.h"
 
 namespace {
 
@@ -51,10 +51,7 @@ bool isInstalled(const QString& program) {
 QImage rendered(const QByteArray& pdf) {
   const QTemporaryDir directory;
   const QString path = directory.filePath(QStringLiteral("a.pdf"));
-  QFile file(path);
-  EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write(pdf);
-  file.close();
+  support::writeFile(path, pdf);
   const QString stem = directory.filePath(QStringLiteral("page"));
   output(QStringLiteral("pdftoppm"), {QStringLiteral("-r"), QStringLiteral("144"), QStringLiteral("-png"),
                                       QStringLiteral("-singlefile"), path, stem});
@@ -65,11 +62,6 @@ QImage rendered(const QByteArray& pdf) {
 QColor rightHalf(const QImage& page, int band) {
   return page.pixelColor((500 + 700) / 10, (700 + 1000 * band + 450) / 10);
 }
-
-class FullDevice : public QBuffer {
- protected:
-  qint64 writeData(const char* /*data*/, qint64 /*length*/) override { return -1; }
-};
 
 }  // namespace
 
@@ -101,20 +93,6 @@ TEST(Pdf, OtherPicturesAreDrawn) {
   EXPECT_LT(rightHalf(page, 4).red(), 100) << "turned by half, the dark half is on the right";
   EXPECT_GT(rightHalf(page, 5).red(), 200);
   EXPECT_LT(rightHalf(page, 5).green(), 60);
-}
-
-TEST(Pdf, BothWaysLookTheSame) {
-  if (!isInstalled(QStringLiteral("pdftoppm"))) GTEST_SKIP() << "pdftoppm is not installed";
-  const report::Document document =
-      pictureReport({pictureBytes("jpg", {60, 60}), pictureBytes("jpg", {90, 60}, Qt::blue)});
-  const QImage own = rendered(report::toPdf(document));
-  const QImage drawn = rendered(report::toPdf(document, report::PhotoEncoding::Drawn));
-  ASSERT_EQ(own.size(), QSize(600, 800));
-  ASSERT_EQ(own.size(), drawn.size());
-  for (const int band : {0, 1}) {
-    EXPECT_NEAR(rightHalf(own, band).red(), rightHalf(drawn, band).red(), 12);
-    EXPECT_NEAR(rightHalf(own, band).blue(), rightHalf(drawn, band).blue(), 12);
-  }
 }
 
 TEST(Pdf, TextsCanBeReadBackPageByPage) {
@@ -162,32 +140,13 @@ TEST(Pdf, ABarcodeIsReadFromThePage) {
 TEST(Pdf, WhatCannotBeMadeLeavesTheOldFile) {
   const QTemporaryDir directory;
   const QString path = directory.filePath(QStringLiteral("old.pdf"));
-  QFile file(path);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write("old");
-  file.close();
+  support::writeFile(path, "old");
   EXPECT_THROW(report::writePdf(report::Document(), path), runtime::RuntimeError);
-  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-  EXPECT_EQ(file.readAll(), "old");
+  EXPECT_EQ(support::contentOf(path), "old");
   SmallReport small;
   EXPECT_THROW(report::writePdf(small.run(), directory.filePath(QStringLiteral("none/x.pdf"))),
                runtime::RuntimeError);
-}
-
-TEST(PhotoStreams, WritesNothingWhenThePlaceholdersAreNotThoseHandedOut) {
-  const QByteArray pdf = report::toPdf(pictureReport({}));
-  QBuffer target;
-  target.open(QIODevice::WriteOnly);
-  EXPECT_FALSE(report::replacePlaceholders(pdf, {{pictureBytes("jpg", {60, 60}), {60, 60}, 3}}, target));
-  EXPECT_TRUE(target.data().isEmpty());
-}
-
-TEST(PhotoStreams, AFullDiskAndADamagedDocumentAreErrors) {
-  FullDevice full;
-  full.open(QIODevice::WriteOnly);
-  EXPECT_THROW(std::ignore = report::replacePlaceholders(report::toPdf(pictureReport({})), {}, full),
-               runtime::RuntimeError);
-  QBuffer target;
-  target.open(QIODevice::WriteOnly);
-  EXPECT_THROW(std::ignore = report::replacePlaceholders("no document", {}, target), runtime::RuntimeError);
+  const support::FullDisk disk(100);
+  EXPECT_THROW(report::writePdf(small.run(), path), runtime::RuntimeError);
+  EXPECT_EQ(support::contentOf(path), "old");
 }

@@ -3,7 +3,6 @@
 #include <set>
 
 #include "runtime/KeyedCollection.h"
-#include "runtime/Progress.h"
 #include "runtime/Random.h"
 #include "support/FixedClock.h"
 #include "support/Thrown.h"
@@ -32,15 +31,6 @@ TEST(KeyedCollection, FindsByPositionAndByKeyWhateverItsCase) {
   EXPECT_EQ(thrownNumber([&] { std::ignore = numbers.Item(QString()); }), ErrorNumber::InvalidCall);
 }
 
-TEST(KeyedCollection, RefusesAKeyTwiceButNotTheEmptyOne) {
-  Numbers numbers = tenTwentyThirty();
-  EXPECT_EQ(thrownNumber([&] { numbers.Add(std::make_shared<int>(1), QStringLiteral("TEN")); }),
-            ErrorNumber::DuplicateKey);
-  EXPECT_EQ(numbers.Count(), 3);
-  numbers.Add(std::make_shared<int>(40));
-  EXPECT_EQ(numbers.Count(), 4);
-}
-
 TEST(KeyedCollection, KeysFollowTheirMembersAfterARemoval) {
   Numbers numbers = tenTwentyThirty();
   numbers.Remove(QStringLiteral("ten"));
@@ -53,42 +43,12 @@ TEST(KeyedCollection, KeysFollowTheirMembersAfterARemoval) {
                          [](const std::shared_ptr<int>& member, int value) { return *member == value; }));
 }
 
-TEST(Random, IsUniformBelowOne) {
-  runtime::Random random(7);
-  int below[10] = {};
-  for (int i = 0; i < 10000; ++i) {
-    const float number = random.next();
-    ASSERT_GE(number, 0.0F);
-    ASSERT_LT(number, 1.0F);
-    ++below[static_cast<int>(number * 10)];
-  }
-  for (const int count : below) EXPECT_NEAR(count, 1000, 150);
-}
-
 TEST(Random, GeneratorsOfTheSameMomentDiffer) {
   const support::FixedClock clock(QDateTime(QDate(2026, 11, 15), QTime(8, 0)));
   std::set<float> first;
   for (int i = 0; i < 1000; ++i) first.insert(runtime::Random().next());
   EXPECT_GT(first.size(), 990U);
   EXPECT_EQ(runtime::Random(5).next(), runtime::Random(5).next());
-}
-
-TEST(Progress, GoesToTheInnermostListener) {
-  class Counter : public runtime::ProgressListener {
-   public:
-    void progress(int done, int) override { last = done; }
-    int last = 0;
-  };
-  Counter outer;
-  Counter inner;
-  const runtime::ProgressScope outerScope(outer);
-  {
-    const runtime::ProgressScope innerScope(inner);
-    runtime::reportProgress(1, 3);
-  }
-  runtime::reportProgress(2, 3);
-  EXPECT_EQ(inner.last, 1);
-  EXPECT_EQ(outer.last, 2);
 }
 
 }  // namespace

@@ -14,13 +14,6 @@ TEST(DefaultText, LeavesOutTheTimeAtMidnightOnly) {
   EXPECT_EQ(runtime::shortTimeText(QTime(8, 5, 59)), QStringLiteral("08:05"));
 }
 
-TEST(DefaultText, KnowsTheZeroMoment) {
-  EXPECT_TRUE(runtime::isZero(runtime::zeroDateTime()));
-  EXPECT_FALSE(runtime::isZero(runtime::zeroDateTime().addSecs(1)));
-  EXPECT_FALSE(runtime::isZero(QDateTime(QDate(2026, 11, 15), QTime(0, 0))));
-  EXPECT_EQ(runtime::dateTimeText(runtime::zeroDateTime()), QStringLiteral("1899-12-30"));
-}
-
 TEST(CodePage, HoldsGbkAndNothingElse) {
   EXPECT_EQ(runtime::toCodePage(QStringLiteral("中a喆€")), QByteArray("\xd6\xd0"
                                                                       "a"

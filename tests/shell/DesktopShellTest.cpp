@@ -3,19 +3,6 @@
 #include <QDir>
 
 #include "shell/DesktopShell.h"
-#include "support/RecordingShell.h"
-
-TEST(Shell, AsksTheInstalledHostAndOpensNothingWithoutOne) {
-  EXPECT_FALSE(shell::openTarget(QStringLiteral("http://example.org")));
-  {
-    support::RecordingShell desktop;
-    EXPECT_TRUE(shell::openTarget(QStringLiteral("a")));
-    desktop.succeeds = false;
-    EXPECT_FALSE(shell::openTarget(QStringLiteral("b")));
-    EXPECT_EQ(desktop.opened, QStringList({QStringLiteral("a"), QStringLiteral("b")}));
-  }
-  EXPECT_FALSE(shell::openTarget(QStringLiteral("c")));
-}
 
 TEST(Shell, TellsAddressesFromFiles) {
   EXPECT_EQ(shell::targetUrl(QStringLiteral("http://example.org/x?y=1")),

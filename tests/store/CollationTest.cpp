@@ -1,5 +1,6 @@
+#include <gtest/gtest.h>
+
 #include "store/JetCollation.h"
-#include "store/StoreFile.h"
 
 namespace {
 
@@ -63,22 +64,4 @@ TEST(Collation, IsATotalOrder) {
       }
     }
   }
-}
-
-class CollationInTables : public StoreFile {};
-
-TEST_F(CollationInTables, EqualityFindsByIndexWithoutRegardToCase) {
-  const auto database = open();
-  database->run(QStringLiteral("INSERT INTO Person(NAME) VALUES('Ｌi'),('other'),(''),(NULL)"));
-  const QString sql = QStringLiteral("SELECT ID FROM Person WHERE NAME='LI'");
-  EXPECT_EQ(column(*database, sql), QStringList{QStringLiteral("1")});
-  const auto plan = database->statement(QStringLiteral("EXPLAIN QUERY PLAN ") + sql);
-  ASSERT_TRUE(plan->step());
-  EXPECT_TRUE(plan->value(3).toString().contains(QStringLiteral("PersonName")))
-      << plan->value(3).toString().toStdString();
-  plan->reset();
-  EXPECT_EQ(column(*database, QStringLiteral("SELECT ID FROM Person WHERE NAME=''")),
-            QStringList{QStringLiteral("3")});
-  EXPECT_EQ(column(*database, QStringLiteral("SELECT ID FROM Person WHERE NAME IS NULL")),
-            QStringList{QStringLiteral("4")});
 }

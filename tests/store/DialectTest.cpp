@@ -63,12 +63,3 @@ TEST(Dialect, RefusesAStatementOfAnotherUse) {
   EXPECT_EQ(store::translated(QStringLiteral("delete from employee;"), StatementUse::Change),
             QStringLiteral("delete from employee"));
 }
-
-TEST(Dialect, MentionsOfATable) {
-  const auto count = [](const char* sql) {
-    return store::mentions(QString::fromUtf8(sql), QStringLiteral("Employee"));
-  };
-  EXPECT_EQ(count("SELECT Employee.*, Dept.DNAME FROM Employee, Dept WHERE Employee.DID = Dept.ID"), 1);
-  EXPECT_EQ(count("SELECT a.* FROM employee a, [EMPLOYEE] b"), 2);
-  EXPECT_EQ(count("SELECT 'Employee' FROM Dept"), 0);
-}

@@ -3,11 +3,11 @@
 #include <functional>
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QTemporaryDir>
 
 #include "store/SqlCipherEngine.h"
 #include "store/StoreError.h"
+#include "support/Files.h"
 
 /// A database of one table in a directory of its own. Waits for locks only shortly.
 class StoreFile : public ::testing::Test {
@@ -46,17 +46,6 @@ class StoreFile : public ::testing::Test {
       return error.description();
     }
     return {};
-  }
-
-  void write(const QString& name, const QByteArray& bytes) {
-    QFile target(name);
-    ASSERT_TRUE(target.open(QIODevice::WriteOnly));
-    ASSERT_EQ(target.write(bytes), bytes.size());
-  }
-
-  static QByteArray read(const QString& name) {
-    QFile source(name);
-    return source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();
   }
 
   QTemporaryDir directory;

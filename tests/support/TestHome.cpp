@@ -48,10 +48,11 @@ QString TestHome::single(const QString& sql) const {
 }
 
 void TestHome::insertEmployee(const QString& number, const QString& name, int department,
-                              const QByteArray& photo, const QString& barcode) const {
+                              const QByteArray& photo, const QString& barcode,
+                              std::shared_ptr<ado::Connection> connection) const {
   ado::Recordset rows;
-  rows.Open(QStringLiteral("SELECT * FROM Employee WHERE 1 = 0"), connect(), ado::CursorType::Keyset,
-            ado::LockType::Optimistic);
+  rows.Open(QStringLiteral("SELECT * FROM Employee WHERE 1 = 0"), connection ? connection : connect(),
+            ado::CursorType::Keyset, ado::LockType::Optimistic);
   rows.AddNew();
   rows.Fields(QStringLiteral("ENUMBER")).setValue(number);
   rows.Fields(QStringLiteral("ENAME")).setValue(name);
@@ -60,7 +61,6 @@ void TestHome::insertEmployee(const QString& number, const QString& name, int de
   if (!photo.isNull()) rows.Fields(QStringLiteral("HEADIMG")).setValue(photo);
   rows.Fields(QStringLiteral("ENTERDATE")).setValue(QDateTime(QDate(2026, 11, 2), QTime(0, 0)));
   rows.Update();
-  rows.Close();
 }
 
 QByteArray TestHome::tinyJpeg() {

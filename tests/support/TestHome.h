@@ -31,9 +31,10 @@ class TestHome {
   int execute(const QString& sql) const;
   /// First column of the first row as text, "<null>" for Null and "<none>" without a row.
   [[nodiscard]] QString single(const QString& sql) const;
-  /// Inserts an employee with the photo bytes as given; no photo at all (Null) when `photo` is null.
+  /// Inserts an employee with the photo bytes as given; no photo at all (Null) when `photo` is null. Without
+  /// a connection it opens one, which takes longer than the rest of a test.
   void insertEmployee(const QString& number, const QString& name, int department, const QByteArray& photo,
-                      const QString& barcode = {}) const;
+                      const QString& barcode = {}, std::shared_ptr<ado::Connection> connection = {}) const;
   /// Bytes of the smallest JPEG that a picture loader takes.
   [[nodiscard]] static QByteArray tinyJpeg();
 

@@ -8,11 +8,6 @@ namespace {
 
 class PrintingCards : public MainWindow {
  protected:
-  [[nodiscard]] QStringList numbers(const clsEmployeeSet& employees) const {
-    QStringList all;
-    for (const auto& employee : employees) all.append(employee->ENUMBER());
-    return all;
-  }
   [[nodiscard]] QStringList photoFiles() const {
     return QDir(home.path()).entryList({QStringLiteral("*.jpg")});
   }
@@ -33,14 +28,6 @@ class PrintingCards : public MainWindow {
 };
 
 }  // namespace
-
-TEST_F(PrintingCards, TakesTheSelectionFromTheBottomUp) {
-  window.Form_Load();
-  select({1, 3, 4});
-  EXPECT_EQ(numbers(*window.GetSelectedEmployees()).join(u' '), QStringLiteral("A005 A004 A002"));
-  select({});
-  EXPECT_EQ(window.GetSelectedEmployees()->Count(), 0);
-}
 
 TEST_F(PrintingCards, SaysWhichEmployeesAreSkippedAndWhy) {
   window.Form_Load();

@@ -1,24 +1,14 @@
 #include <QCoreApplication>
 #include <QDir>
-#include <QProgressBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
 
 #include "MainWindowTest.h"
-#include "runtime/Progress.h"
-#include "ui/ItemKey.h"
-#include "ui/LoadProgress.h"
 
 namespace {
 class MainList : public MainWindow {};
 }  // namespace
-
-TEST(ItemKeys, CarryTheIdentifierFromTheSeventhCharacter) {
-  EXPECT_EQ(MakeItemKey(QStringLiteral("12")), QStringLiteral("KEYPRE12"));
-  EXPECT_EQ(ItemIdentifier(QStringLiteral("KEYPRE12")), QStringLiteral("12"));
-  EXPECT_EQ(ItemIdentifier(QStringLiteral("KEYPRE")), QString());
-}
 
 TEST_F(MainList, ShowsEmployeesOfDepartmentsThatExist) {
   addEmployee(QStringLiteral("B001"), 99);
@@ -34,11 +24,6 @@ TEST_F(MainList, ShowsEmployeesOfDepartmentsThatExist) {
   EXPECT_EQ(list().columnWidth(3), std::lround(2000 * dots / 1440));
 }
 
-TEST_F(MainList, LeavesNoPhotoFilesBehind) {
-  window.Form_Load();
-  EXPECT_EQ(QDir(home.path()).entryList({QStringLiteral("*.jpg")}), QStringList());
-}
-
 TEST_F(MainList, ShowsDepartmentsAndReadsThemAgainEachTime) {
   choose("mnuDeptDsp");
   EXPECT_EQ(headers(), QStringList({QStringLiteral("部门号"), QStringLiteral("部门名称")}));
@@ -47,14 +32,6 @@ TEST_F(MainList, ShowsDepartmentsAndReadsThemAgainEachTime) {
   addDepartment(QStringLiteral("新部门"));
   choose("mnuDeptDsp");
   EXPECT_EQ(column(1).last(), QStringLiteral("新部门"));
-}
-
-TEST_F(MainList, SaysWhyTheDepartmentsAreMissing) {
-  execute(QStringLiteral("DROP TABLE Dept"));
-  choose("mnuDeptDsp");
-  EXPECT_TRUE(column(0).isEmpty());
-  EXPECT_TRUE(note().startsWith(QStringLiteral("部门列表未能完整读取："))) << note().toStdString();
-  EXPECT_EQ(window.GetListMode(), 2);
 }
 
 TEST_F(MainList, TellsOnceWhoseNumberCannotNameAPhotoFile) {
@@ -106,22 +83,6 @@ TEST_F(MainList, LoadsOnlyOnceTheWindowHasBeenPainted) {
   window.repaint();
   QCoreApplication::processEvents();
   EXPECT_EQ(loaded.count(), 1);
-}
-
-TEST_F(MainList, ShowsProgressOfLongOperationsOnly) {
-  const auto bars = [this] { return window.findChildren<QProgressBar*>(QStringLiteral("pbLoad")); };
-  {
-    const LoadProgress progress(*window.statusBar());
-    runtime::reportProgress(1, 200);
-    EXPECT_TRUE(bars().isEmpty());
-    QTest::qSleep(60);
-    runtime::reportProgress(50, 200);
-    ASSERT_EQ(bars().size(), 1);
-    EXPECT_EQ(bars()[0]->value(), 50);
-    EXPECT_EQ(bars()[0]->maximum(), 200);
-  }
-  EXPECT_TRUE(bars().isEmpty());
-  EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
 TEST_F(MainList, NeitherClosesNorStartsAnythingElseWhileItLoads) {

@@ -1,6 +1,5 @@
 #include <QMenu>
 #include <QMenuBar>
-#include <QSignalSpy>
 #include <QTest>
 
 #include "MainWindowTest.h"
@@ -142,10 +141,4 @@ TEST_F(MainMenu, OpensHelpAndWebSite) {
   desktop.succeeds = false;
   choose("mnuVistHomePage");
   EXPECT_EQ(note(), QStringLiteral("未能打开：http://site.example"));
-}
-
-TEST_F(MainMenu, ExitClosesTheWindow) {
-  window.show();
-  choose("mnuExit");
-  EXPECT_FALSE(window.isVisible());
 }

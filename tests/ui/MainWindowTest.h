@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <gtest/gtest.h>
 
 #include <QAction>
@@ -8,22 +7,10 @@
 #include <QLabel>
 #include <QTreeView>
 
-#include "ado/Recordset.h"
 #include "support/RecordingShell.h"
 #include "support/ScriptedBoxes.h"
 #include "support/TestHome.h"
 #include "ui/frmMain.h"
-
-/// Scripted boxes that let a test act while a box is up.
-class ActingBoxes : public support::ScriptedBoxes {
- public:
-  dialogs::Answer message(const dialogs::MessageBox& box) override {
-    if (whileShown) whileShown();
-    return ScriptedBoxes::message(box);
-  }
-
-  std::function<void()> whileShown;
-};
 
 /// A main window over a home with the departments 1 财务部, 2 人事部, 3 空部门 and five employees in the
 /// first two. The window is not shown and its list not loaded yet.
@@ -38,20 +25,10 @@ class MainWindow : public ::testing::Test {
   void addDepartment(const QString& name) {
     execute(QStringLiteral("INSERT INTO Dept(DNAME) VALUES('%1')").arg(name));
   }
-  /// On one connection for all: opening one takes longer than the rest of a test.
   void addEmployee(const QString& number, int department,
                    const QByteArray& photo = support::TestHome::tinyJpeg()) {
-    ado::Recordset rows;
-    rows.Open(QStringLiteral("SELECT * FROM Employee WHERE 1 = 0"), m_connection, ado::CursorType::Keyset,
-              ado::LockType::Optimistic);
-    rows.AddNew();
-    rows.Fields(QStringLiteral("ENUMBER")).setValue(number);
-    rows.Fields(QStringLiteral("ENAME")).setValue(QStringLiteral("员工") + number);
-    rows.Fields(QStringLiteral("DID")).setValue(department);
-    rows.Fields(QStringLiteral("EBARCODE")).setValue(QStringLiteral("12345678901") + number);
-    rows.Fields(QStringLiteral("HEADIMG")).setValue(photo);
-    rows.Fields(QStringLiteral("ENTERDATE")).setValue(QDateTime(QDate(2026, 11, 2), QTime(0, 0)));
-    rows.Update();
+    home.insertEmployee(number, QStringLiteral("员工") + number, department, photo,
+                        QStringLiteral("12345678901") + number, m_connection);
   }
 
   [[nodiscard]] QAction& action(const char* name) const {
@@ -89,7 +66,7 @@ class MainWindow : public ::testing::Test {
   [[nodiscard]] QString note() const { return label("lblNote"); }
 
   support::TestHome home;
-  ActingBoxes boxes;
+  support::ScriptedBoxes boxes;
   support::RecordingShell desktop;
   frmMain window;
 

@@ -25,14 +25,6 @@ TEST_F(Removal, AsksForEachEmployeeFromTheBottomUp) {
   EXPECT_EQ(counts(), QStringLiteral("共 3 名员工，已选 1 名，将打印 1 张签到卡"));
 }
 
-TEST_F(Removal, DoesNothingWithoutASelection) {
-  window.Form_Load();
-  choose("mnuEmpRemove");
-  choose("mnuDeptDsp");
-  choose("mnuDeptRemove");
-  EXPECT_EQ(column(0).size(), 3);
-}
-
 TEST_F(Removal, SaysThatAnEmployeeCouldNotBeRemovedAndGoesOn) {
   window.Form_Load();
   execute(QStringLiteral("DELETE FROM Employee WHERE ENUMBER = 'A002'"));
@@ -45,16 +37,6 @@ TEST_F(Removal, SaysThatAnEmployeeCouldNotBeRemovedAndGoesOn) {
   EXPECT_EQ(boxes.messages()[1].title, QStringLiteral("错误"));
   EXPECT_EQ(column(0).join(u' '), QStringLiteral("A002 A003 A004 A005"));
   EXPECT_TRUE(note().contains(QStringLiteral("A002")));
-}
-
-TEST_F(Removal, RefusesANumberThatWouldBreakTheStatement) {
-  addEmployee(QStringLiteral("o'x"), 1);
-  window.Form_Load();
-  select({5});
-  boxes.expectMessage(QStringLiteral("[o'x]"), dialogs::Answer::Yes);
-  boxes.expectMessage(QStringLiteral("未能删除编号为[o'x]的员工！"));
-  choose("mnuEmpRemove");
-  EXPECT_EQ(employeesLeft(), QStringLiteral("6"));
 }
 
 TEST_F(Removal, RemovesDepartmentsWithoutEmployeesOnly) {
@@ -71,14 +53,6 @@ TEST_F(Removal, RemovesDepartmentsWithoutEmployeesOnly) {
   EXPECT_EQ(home.single(QStringLiteral("SELECT COUNT(*) FROM Dept")), QStringLiteral("2"));
 }
 
-TEST_F(Removal, KeepsADepartmentWhenTheAnswerIsNo) {
-  choose("mnuDeptDsp");
-  select({2});
-  boxes.expectMessage(QStringLiteral("空部门"), dialogs::Answer::No);
-  choose("mnuDeptRemove");
-  EXPECT_EQ(column(1).size(), 3);
-}
-
 TEST_F(Removal, NeverRemovesADepartmentThatCouldNotBeCounted) {
   choose("mnuDeptDsp");
   execute(QStringLiteral("DROP TABLE Employee"));
@@ -89,22 +63,4 @@ TEST_F(Removal, NeverRemovesADepartmentThatCouldNotBeCounted) {
   EXPECT_EQ(boxes.messages()[0].title, QStringLiteral("错误"));
   EXPECT_EQ(column(1).size(), 3);
   EXPECT_TRUE(note().startsWith(QStringLiteral("未能删除[3]："))) << note().toStdString();
-}
-
-TEST_F(Removal, NeverRemovesADepartmentThatCouldNotBeLoaded) {
-  choose("mnuDeptDsp");
-  execute(QStringLiteral("DROP TABLE Dept"));
-  select({2});
-  boxes.expectMessage(QStringLiteral("数据库操作错误！"));
-  choose("mnuDeptRemove");
-}
-
-TEST_F(Removal, SaysThatADepartmentWentAwayMeanwhile) {
-  choose("mnuDeptDsp");
-  select({2});
-  boxes.whileShown = [this] { execute(QStringLiteral("DELETE FROM Dept WHERE ID = 3")); };
-  boxes.expectMessage(QStringLiteral("[空部门]"), dialogs::Answer::Yes);
-  boxes.expectMessage(QStringLiteral("未能删除编号为[3]名称为[空部门]的部门！"));
-  choose("mnuDeptRemove");
-  EXPECT_EQ(column(1).size(), 3);
 }

@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
+#include APPLICATION_HEADER
 
 int main(int argc, char** argv) {
   ::testing::InitGoogleTest(&argc, argv);
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QCoreApplication application(argc, argv);
+  const APPLICATION application(argc, argv);
   return RUN_ALL_TESTS();
 }
