@@ -1,0 +1,30 @@
+#include "attendance/clsEmployeePresenceSet.h"
+
+#include <cstdint>
+
+#include "attendance/clsPresenceSet.h"
+#include "runtime/Conversions.h"
+
+bool clsEmployeePresenceSet::LoadByDate(const QDate& startDate, const QDate& endDate) {
+  clsPresenceSet records;
+  const bool loaded = records.LoadSet(startDate, endDate);
+  m_lastFailure = records.lastFailure();
+  if (!loaded) return false;
+  [[maybe_unused]] const std::int16_t count = runtime::toInt16(records.Count());
+  for (const std::shared_ptr<clsPresence>& record : records) {
+    std::shared_ptr<clsSingleEmployeeMonPresence> employee = m_members.find(record->ENUMBER());
+    if (!employee) employee = Add(record->ENUMBER(), record->ENAME(), record->ENUMBER());
+    employee->tryAddPresence(record->enterTime(), record->exitTime());
+  }
+  return true;
+}
+
+std::shared_ptr<clsSingleEmployeeMonPresence> clsEmployeePresenceSet::Add(const QString& ENUMBER,
+                                                                          const QString& ENAME,
+                                                                          const QString& sKey) {
+  auto employee = std::make_shared<clsSingleEmployeeMonPresence>();
+  employee->setENUMBER(ENUMBER);
+  employee->setENAME(ENAME);
+  m_members.Add(employee, sKey);
+  return employee;
+}
