@@ -80,12 +80,14 @@ class frmMain : public QMainWindow, public MainForm {
   void ShowDeptList();
   void ShowEmpList();
 
-  RecordList* lsvData;
-  MainStatus m_status;
-  CardPrinting m_cards;
+  // Before the widgets: making them already sends this window events that ask for these.
   /// A handler is at work: no other may start before it ends.
   bool m_running = false;
   /// Records are being read while the window repaints: it must not close now.
   bool m_loading = false;
   bool m_loadAfterPaint = false;
+
+  RecordList* lsvData;
+  MainStatus m_status;
+  CardPrinting m_cards;
 };
