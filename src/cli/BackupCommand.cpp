@@ -9,6 +9,7 @@
 #include "foundation/Schema.h"
 #include "foundation/clsDbConn.h"
 #include "runtime/Conversions.h"
+#include "runtime/ReplacingFile.h"
 #include "runtime/RuntimeError.h"
 
 namespace cli {
@@ -24,8 +25,7 @@ void refuseTarget(const QString& path) {
   if (target.exists() || target.isSymLink()) fail(QStringLiteral("文件“%1”已经存在，不会覆盖").arg(path));
   const QFileInfo directory(target.absolutePath());
   if (!directory.isDir()) fail(QStringLiteral("目录“%1”不存在").arg(directory.filePath()));
-  constexpr auto anyWrite = QFileDevice::WriteOwner | QFileDevice::WriteGroup | QFileDevice::WriteOther;
-  if ((directory.permissions() & anyWrite) == 0) {
+  if (runtime::isReadOnly(directory.filePath())) {
     fail(QStringLiteral("目录“%1”是只读的").arg(directory.filePath()));
   }
   // The copy is opened by a connection string, which cannot name such a file.

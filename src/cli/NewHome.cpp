@@ -11,6 +11,7 @@
 #include "foundation/clsDbConn.h"
 #include "foundation/mdMain.h"
 #include "runtime/CodePage.h"
+#include "runtime/ReplacingFile.h"
 #include "runtime/RuntimeError.h"
 
 namespace cli {
@@ -82,12 +83,10 @@ void NewHome::make() {
 void NewHome::refuseReadOnly() const {
   QString existing = m_directory;
   while (!exists(existing)) existing = QFileInfo(existing).path();
-  const QFileInfo info(existing);
-  if (!info.isDir()) {
+  if (!QFileInfo(existing).isDir()) {
     refuse(runtime::ErrorNumber::FileAccess, QStringLiteral("“%1”不是目录").arg(existing));
   }
-  constexpr auto anyWrite = QFileDevice::WriteOwner | QFileDevice::WriteGroup | QFileDevice::WriteOther;
-  if ((info.permissions() & anyWrite) == 0) {
+  if (runtime::isReadOnly(existing)) {
     refuse(runtime::ErrorNumber::FileAccess, QStringLiteral("目录“%1”是只读的").arg(existing));
   }
 }

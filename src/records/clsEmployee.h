@@ -46,9 +46,9 @@ class clsEmployee {
 
   /// Inserts the employee, or overwrites the row with the same number; whether it was written.
   [[nodiscard]] bool Add();
-  /// Loads by ENUMBER.
+  /// Loads by ENUMBER and gives a LoadResult; NotFound also when the department is not stored.
   [[nodiscard]] int LoadByENUMBER();
-  /// Loads by EBARCODE, setting ENUMBER as well.
+  /// Loads by EBARCODE, setting ENUMBER as well, and gives a LoadResult.
   [[nodiscard]] int IsExist();
   /// Deletes the employee with that number; whether a row was deleted. Presence rows stay.
   [[nodiscard]] bool Remove(const QString& number);

@@ -19,7 +19,7 @@ Outcome runProgram(const QStringList& arguments) {
           QString::fromUtf8(process.readAllStandardError())};
 }
 
-TEST(Process, WorksWithoutDisplaySessionAndLocale) {
+TEST(Process, WorksWithoutDisplayAndLocale) {
   const QTemporaryDir above;
   const QString home = above.filePath(QStringLiteral("家"));
   const QStringList named{QStringLiteral("--home"), home};

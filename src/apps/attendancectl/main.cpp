@@ -25,7 +25,7 @@ bool isPrivateDirectory(const QString& path) {
   return !path.isEmpty() && info.isDir() && (info.permissions() & others) == 0;
 }
 
-/// What drawing needs where there is neither a display nor a session.
+/// What drawing needs where nobody is logged in to a desktop, as in a timer's job.
 class DrawingEnvironment {
  public:
   DrawingEnvironment() {

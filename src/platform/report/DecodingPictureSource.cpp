@@ -16,8 +16,8 @@ struct SizedPicture {
   bool operator==(const SizedPicture&) const = default;
 };
 
-std::size_t qHash(const SizedPicture& key, std::size_t seed) {
-  return qHashMulti(seed, key.picture, key.side);
+std::size_t qHash(const SizedPicture& key, std::size_t start) {
+  return qHashMulti(start, key.picture, key.side);
 }
 
 struct Decoded {

@@ -1,6 +1,7 @@
 #include "runtime/ReplacingFile.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QFile>
@@ -11,9 +12,6 @@
 namespace runtime {
 
 namespace {
-
-constexpr QFileDevice::Permissions anyWrite =
-    QFileDevice::WriteOwner | QFileDevice::WriteGroup | QFileDevice::WriteOther;
 
 [[noreturn]] void refuse(ErrorNumber number, const QString& path, const QString& why) {
   throw RuntimeError(number, QStringLiteral("无法写入文件“%1”：%2").arg(path, why));
@@ -36,14 +34,8 @@ void syncDirectoryOf(const QString& path) {
 }  // namespace
 
 ReplacingFile::ReplacingFile(const QString& path) : m_file(path) {
-  const QFileInfo target(path);
-  if (target.exists() && (target.permissions() & anyWrite) == 0) {
-    refuse(ErrorNumber::FileAccess, path, QStringLiteral("文件是只读的"));
-  }
-  const QFileInfo directory(directoryOf(path));
-  if (directory.exists() && (directory.permissions() & anyWrite) == 0) {
-    refuse(ErrorNumber::FileAccess, path, QStringLiteral("目录是只读的"));
-  }
+  if (isReadOnly(path)) refuse(ErrorNumber::FileAccess, path, QStringLiteral("文件是只读的"));
+  if (isReadOnly(directoryOf(path))) refuse(ErrorNumber::FileAccess, path, QStringLiteral("目录是只读的"));
   if (!m_file.open(QIODevice::WriteOnly)) refuse(ErrorNumber::FileAccess, path, m_file.errorString());
 }
 
@@ -60,6 +52,12 @@ void ReplacingFile::commit() {
   }
   if (!m_file.commit()) refuse(ErrorNumber::FileIo, m_file.fileName(), m_file.errorString());
   syncDirectoryOf(m_file.fileName());
+}
+
+bool isReadOnly(const QString& path) {
+  struct stat facts {};
+  return ::stat(QFile::encodeName(path).constData(), &facts) == 0 &&
+         (facts.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0;
 }
 
 void replaceFile(const QString& path, const QByteArray& bytes) {

@@ -22,6 +22,10 @@ class ReplacingFile {
   QSaveFile m_file;
 };
 
+/// Whether `path` is there and its permission bits let nobody write: the superuser, whom the system would let
+/// through, is bound by them too. Follows links and opens nothing.
+[[nodiscard]] bool isReadOnly(const QString& path);
+
 /// Writes a whole file by ReplacingFile.
 void replaceFile(const QString& path, const QByteArray& bytes);
 

@@ -7,21 +7,15 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "runtime/ReplacingFile.h"
 #include "store/StoreError.h"
 
 namespace store {
 
 namespace {
 
-constexpr mode_t anyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
-
 [[noreturn]] void cannotOpen(const QString& description) {
   throw StoreError(static_cast<int>(StoreCode::CannotOpen), description);
-}
-
-bool hasNoWriteBit(const QString& path) {
-  struct stat facts {};
-  return ::stat(QFile::encodeName(path).constData(), &facts) == 0 && (facts.st_mode & anyWrite) == 0;
 }
 
 }  // namespace
@@ -31,12 +25,8 @@ bool fileExists(const QString& path) {
   return ::lstat(QFile::encodeName(path).constData(), &facts) == 0;
 }
 
-bool fileIsReadOnly(const QString& path) {
-  return hasNoWriteBit(path);
-}
-
 bool directoryIsReadOnly(const QString& path) {
-  return hasNoWriteBit(QFileInfo(path).absolutePath());
+  return runtime::isReadOnly(QFileInfo(path).absolutePath());
 }
 
 void requireDatabaseFile(const QString& path) {

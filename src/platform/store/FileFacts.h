@@ -8,9 +8,7 @@ namespace store {
 
 /// Whether the name is taken, by a link that leads nowhere too.
 [[nodiscard]] bool fileExists(const QString& path);
-/// Whether nobody may write the file, or nothing may be made beside it, by the permission bits. The superuser
-/// is bound by them too.
-[[nodiscard]] bool fileIsReadOnly(const QString& path);
+/// Whether nothing may be made beside the file by the permission bits of its directory.
 [[nodiscard]] bool directoryIsReadOnly(const QString& path);
 /// Throws StoreError when `path` names nothing, a directory or other special file, or an empty file.
 void requireDatabaseFile(const QString& path);

@@ -5,6 +5,7 @@
 
 #include <QFile>
 
+#include "runtime/ReplacingFile.h"
 #include "store/FileFacts.h"
 #include "store/JetCollation.h"
 #include "store/StoreError.h"
@@ -24,7 +25,7 @@ int compareTexts(void*, int leftSize, const void* left, int rightSize, const voi
 }
 
 Handle openHandle(const Opening& opening) {
-  const bool readOnly = fileIsReadOnly(opening.path) || directoryIsReadOnly(opening.path);
+  const bool readOnly = runtime::isReadOnly(opening.path) || directoryIsReadOnly(opening.path);
   const int access = readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE;
   sqlite3* opened = nullptr;
   const int code = sqlite3_open_v2(QFile::encodeName(opening.path).constData(), &opened,
