@@ -1,4 +1,5 @@
 #include "CardHome.h"
+#include "DrawnShapes.h"
 #include "printing/DefaultLogo.h"
 #include "printing/SingleEmployeeInfoReport.h"
 #include "printing/clsLogo.h"
@@ -21,23 +22,6 @@ class CardReport : public CardHome {
 
   SingleEmployeeInfoReport m_report;
 };
-
-/// The shapes of one kind that the control of that name draws on the page.
-template <typename Shape>
-std::vector<Shape> shapes(const Document& document, const char* control, int page = 0) {
-  std::vector<Shape> found;
-  for (const report::Primitive& primitive : document.page(page)) {
-    const auto* shape = std::get_if<Shape>(&primitive.shape);
-    if (shape != nullptr && primitive.control == QLatin1String(control)) found.push_back(*shape);
-  }
-  return found;
-}
-
-QStringList texts(const Document& document, const char* control, int page = 0) {
-  QStringList found;
-  for (const auto& text : shapes<report::TextPrimitive>(document, control, page)) found.append(text.text);
-  return found;
-}
 
 void setUnit(const QString& name, const QString& size = QStringLiteral("20")) {
   clsTextDspStyle style;
