@@ -47,14 +47,24 @@ class clsPresence {
   /// Signs the employee ENUMBER in or out as the state allows; a Result. Checking and writing are two
   /// statements: the caller puts a transaction around them where others write as well.
   [[nodiscard]] std::int16_t Add();
+  /// As Add, with `now` for the clock.
+  [[nodiscard]] std::int16_t Add(const QDateTime& now);
 
+  /// What was left of the minute after today's sign-in, in seconds and at least 1, when the last of the
+  /// operations above found JustSignedIn; otherwise 0.
+  [[nodiscard]] int secondsLeft() const { return m_secondsLeft; }
   /// The error that ended the last of the operations above; empty when none did.
   [[nodiscard]] const QString& lastFailure() const { return m_lastFailure; }
 
  private:
+  /// What the operations above share: today is the day of `now`.
+  [[nodiscard]] State checkState(const QDateTime& now);
+  [[nodiscard]] State readState(const QDateTime& now);
+
   QString m_ename;
   QDateTime m_exitTime = runtime::zeroDateTime();
   QDateTime m_enterTime = runtime::zeroDateTime();
   QString m_enumber;
+  int m_secondsLeft = 0;
   QString m_lastFailure;
 };

@@ -1,6 +1,7 @@
 #include "attendance/clsPresenceSet.h"
 
 #include "ado/Recordset.h"
+#include "attendance/TodayKey.h"
 #include "foundation/Attempt.h"
 #include "foundation/SqlText.h"
 #include "foundation/clsDbConn.h"
@@ -36,6 +37,15 @@ bool clsPresenceSet::LoadSet(const QDate& startDate, const QDate& endDate) {
     rows.Close();
     return true;
   });
+}
+
+bool clsPresenceSet::LoadToday() {
+  QDate today;
+  const bool known = attempt(m_lastFailure, false, [&today] {
+    today = runtime::toDateTime(todayKey(runtime::now())).date();
+    return true;
+  });
+  return known && LoadSet(today, today);
 }
 
 std::shared_ptr<clsPresence> clsPresenceSet::Add(const QString& ENUMBER, const QDateTime& enterTime,
