@@ -57,6 +57,8 @@ CLI::Option* addOption(CLI::App& app, const Option& option) {
       ->description(help)
       ->option_text(text.toStdString())
       ->expected(1, list ? longestList : 1)
+      // Without it a list known by its place ends after its first value.
+      ->allow_extra_args(list && !option.name.startsWith(u'-'))
       ->group("选项");
 }
 

@@ -7,6 +7,8 @@
 #include "cli/InitCommand.h"
 #include "cli/ListCommand.h"
 #include "cli/RemoveCommand.h"
+#include "cli/SignCommand.h"
+#include "cli/TodayCommand.h"
 
 namespace cli {
 
@@ -19,8 +21,8 @@ std::unique_ptr<Command> make() {
 
 using Maker = std::unique_ptr<Command> (*)();
 constexpr Maker makers[] = {
-    make<InitCommand>,   make<DemoCommand>,   make<ListCommand>,  make<CardsCommand>,
-    make<RemoveCommand>, make<BackupCommand>, make<CheckCommand>,
+    make<InitCommand>,   make<DemoCommand>,  make<ListCommand>, make<CardsCommand>, make<RemoveCommand>,
+    make<BackupCommand>, make<CheckCommand>, make<SignCommand>, make<TodayCommand>,
 };
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "ado/Recordset.h"
+#include "cli/Cell.h"
 #include "cli/Database.h"
 #include "runtime/Conversions.h"
 
@@ -37,15 +38,6 @@ const Listing* listingOf(const QString& what) {
   return found == listings().end() ? nullptr : &*found;
 }
 
-/// One cell: a tab or a new line inside a value must not look like a new column or row.
-QString cell(const QVariant& value) {
-  QString text = runtime::toTextOrEmpty(value);
-  for (QChar& character : text) {
-    if (character.category() == QChar::Other_Control) character = u' ';
-  }
-  return text;
-}
-
 }  // namespace
 
 QString ListCommand::summary() const {
@@ -73,7 +65,7 @@ int ListCommand::run(const Streams& streams) {
   for (; !rows.IsEOF(); rows.MoveNext()) {
     QStringList cells;
     for (int column = 0; column < rows.FieldCount(); ++column)
-      cells.append(cell(rows.Fields(column).Value()));
+      cells.append(cell(runtime::toTextOrEmpty(rows.Fields(column).Value())));
     streams.out << cells.join(u'\t') << '\n';
   }
   return Done;

@@ -78,6 +78,8 @@ TEST_F(Records, ADatabaseThatCannotBeOpenedIsExplained) {
       {QStringLiteral("list"), QStringLiteral("employees")},
       {QStringLiteral("remove"), QStringLiteral("A1")},
       {QStringLiteral("check")},
+      {QStringLiteral("sign"), QStringLiteral("1")},
+      {QStringLiteral("today")},
       {QStringLiteral("cards"), QStringLiteral("--all"), QStringLiteral("--out"),
        home.file(QStringLiteral("c.pdf"))},
       {QStringLiteral("backup"), QStringLiteral("--out"), home.file(QStringLiteral("copy.dat"))}};
