@@ -5,7 +5,6 @@
 namespace {
 
 using ado::AdoErrorNumber;
-using ado::DataType;
 
 class AdoRecordset : public AdoFile {
  protected:

@@ -32,9 +32,11 @@ QStringList buttonTexts(const QMessageBox& window) {
 }
 
 class Dialogs : public ::testing::Test {
+ public:
+  ~Dialogs() override { dialogs::installHost(m_before); }
+
  protected:
   Dialogs() : m_before(dialogs::installHost(&m_host)) {}
-  ~Dialogs() override { dialogs::installHost(m_before); }
 
  private:
   dialogs::QtDialogHost m_host;

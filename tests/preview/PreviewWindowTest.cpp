@@ -15,7 +15,6 @@
 #include "support/ScriptedBoxes.h"
 
 using preview::PreviewToolbar;
-using preview::Zoom;
 
 namespace {
 

@@ -4,9 +4,7 @@
 
 #include "graphics/Fonts.h"
 
-using graphics::FontDescription;
 using graphics::substituteFamily;
-using graphics::twipFont;
 
 namespace {
 
