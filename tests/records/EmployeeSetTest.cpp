@@ -5,7 +5,6 @@
 
 namespace {
 
-using runtime::ErrorNumber;
 
 class EmployeeSet : public RecordsTest {
  protected:

@@ -49,7 +49,7 @@ QString TestHome::single(const QString& sql) const {
 
 void TestHome::insertEmployee(const QString& number, const QString& name, int department,
                               const QByteArray& photo, const QString& barcode,
-                              std::shared_ptr<ado::Connection> connection) const {
+                              const std::shared_ptr<ado::Connection>& connection) const {
   ado::Recordset rows;
   rows.Open(QStringLiteral("SELECT * FROM Employee WHERE 1 = 0"), connection ? connection : connect(),
             ado::CursorType::Keyset, ado::LockType::Optimistic);

@@ -34,7 +34,8 @@ class TestHome {
   /// Inserts an employee with the photo bytes as given; no photo at all (Null) when `photo` is null. Without
   /// a connection it opens one, which takes longer than the rest of a test.
   void insertEmployee(const QString& number, const QString& name, int department, const QByteArray& photo,
-                      const QString& barcode = {}, std::shared_ptr<ado::Connection> connection = {}) const;
+                      const QString& barcode = {},
+                      const std::shared_ptr<ado::Connection>& connection = {}) const;
   /// Bytes of the smallest JPEG that a picture loader takes.
   [[nodiscard]] static QByteArray tinyJpeg();
 
