@@ -79,6 +79,20 @@ TEST_F(ReplacingFile, KeepsTheOldFileOnAFullDisk) {
   EXPECT_TRUE(isAlone());
 }
 
+TEST_F(ReplacingFile, LeavesDirectoriesAndDevicesInPlace) {
+  const QString pipe = m_directory.filePath(QStringLiteral("pipe"));
+  ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+  for (const QString& path : {pipe, m_directory.path(), m_path + QStringLiteral("/inside")}) {
+    const auto error = support::thrown([&] { runtime::replaceFile(path, "new"); });
+    EXPECT_EQ(error.number(), static_cast<int>(ErrorNumber::FileAccess));
+    EXPECT_TRUE(error.description().contains(path)) << error.what();
+  }
+  struct stat facts {};
+  ASSERT_EQ(::stat(QFile::encodeName(pipe).constData(), &facts), 0);
+  EXPECT_TRUE(S_ISFIFO(facts.st_mode));
+  EXPECT_EQ(content(), "old");
+}
+
 TEST(ProgramDirectory, IsChosenByArgumentThenEnvironmentThenExecutable) {
   qputenv("ATTENDANCE_HOME", "/from/environment/");
   runtime::chooseAppPath(QStringLiteral("/from/../argument/"));

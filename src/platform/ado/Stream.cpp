@@ -1,7 +1,6 @@
 #include "ado/Stream.h"
 
 #include <cerrno>
-#include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -11,6 +10,7 @@
 
 #include "ado/AdoError.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/SystemWords.h"
 
 namespace ado {
 
@@ -20,10 +20,6 @@ using runtime::ErrorNumber;
 using runtime::RuntimeError;
 
 constexpr mode_t newFileMode = 0666;
-
-QString systemWords() {
-  return QString::fromLocal8Bit(std::strerror(errno));
-}
 
 [[noreturn]] void cannotWrite(ErrorNumber number, const QString& fileName, const QString& why) {
   throw RuntimeError(number, QStringLiteral("无法写入文件“%1”：%2").arg(fileName, why));
@@ -70,7 +66,8 @@ int openForWriting(const QString& fileName, SaveOptions options) {
   const int mode = options == SaveOptions::CreateOverWrite ? O_TRUNC : O_EXCL;
   const int handle = ::open(path.constData(), O_WRONLY | O_CREAT | O_CLOEXEC | mode, newFileMode);
   if (handle < 0) {
-    cannotWrite(errno == EEXIST ? ErrorNumber::FileIo : ErrorNumber::FileAccess, fileName, systemWords());
+    cannotWrite(errno == EEXIST ? ErrorNumber::FileIo : ErrorNumber::FileAccess, fileName,
+                runtime::systemWords(errno));
   }
   return handle;
 }
@@ -122,11 +119,11 @@ void Stream::SaveToFile(const QString& fileName, SaveOptions options) const {
   requireOpen();
   const int handle = openForWriting(fileName, options);
   const bool written = writeAll(handle, m_bytes);
-  const QString why = written ? QString() : systemWords();
+  const QString why = written ? QString() : runtime::systemWords(errno);
   // Some file systems tell only now that the disk is full.
   const bool closed = ::close(handle) == 0;
   if (written && closed) return;
-  const QString closeWords = why.isEmpty() ? systemWords() : why;
+  const QString closeWords = why.isEmpty() ? runtime::systemWords(errno) : why;
   if (QFileInfo(fileName).isFile()) QFile::remove(fileName);
   cannotWrite(ErrorNumber::FileIo, fileName, closeWords);
 }

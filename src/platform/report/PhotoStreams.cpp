@@ -1,14 +1,17 @@
 #include "report/PhotoStreams.h"
 
+#include <cerrno>
 #include <optional>
 #include <set>
 
+#include <QFileDevice>
 #include <qpdf/Buffer.hh>
 #include <qpdf/Pipeline.hh>
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFWriter.hh>
 
 #include "runtime/RuntimeError.h"
+#include "runtime/SystemWords.h"
 
 namespace report {
 namespace {
@@ -34,9 +37,14 @@ class DevicePipeline : public Pipeline {
 
   void write(const unsigned char* data, std::size_t length) override {
     const auto size = static_cast<qint64>(length);
+    errno = 0;
     if (m_device.write(reinterpret_cast<const char*>(data), size) == size) return;
-    throw runtime::RuntimeError(runtime::ErrorNumber::FileIo,
-                                QStringLiteral("PDF 文件写入失败：%1").arg(m_device.errorString()));
+    // A file that is written aside forgets the system's reason.
+    const QString why = errno == 0 ? m_device.errorString() : runtime::systemWords(errno);
+    const auto* file = qobject_cast<const QFileDevice*>(&m_device);
+    throw runtime::RuntimeError(
+        runtime::ErrorNumber::FileIo,
+        QStringLiteral("无法写入文件“%1”：%2").arg(file != nullptr ? file->fileName() : QString(), why));
   }
   void finish() override {}
 

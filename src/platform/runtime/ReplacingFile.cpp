@@ -1,5 +1,6 @@
 #include "runtime/ReplacingFile.h"
 
+#include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -8,6 +9,7 @@
 #include <QFileInfo>
 
 #include "runtime/RuntimeError.h"
+#include "runtime/SystemWords.h"
 
 namespace runtime {
 
@@ -23,6 +25,14 @@ QString directoryOf(const QString& path) {
   return file.exists() ? QFileInfo(file.canonicalFilePath()).path() : file.absolutePath();
 }
 
+/// Renaming over a device would put a file in its place.
+void refuseOtherThanFile(const QString& path) {
+  struct stat facts {};
+  if (::stat(QFile::encodeName(path).constData(), &facts) != 0) return;
+  if (S_ISDIR(facts.st_mode)) refuse(ErrorNumber::FileAccess, path, QStringLiteral("是一个目录"));
+  if (!S_ISREG(facts.st_mode)) refuse(ErrorNumber::FileAccess, path, QStringLiteral("不是普通文件"));
+}
+
 /// The new name is durable only when the directory that holds it is synced too.
 void syncDirectoryOf(const QString& path) {
   const int directory = ::open(QFile::encodeName(directoryOf(path)).constData(), O_RDONLY | O_DIRECTORY);
@@ -34,23 +44,32 @@ void syncDirectoryOf(const QString& path) {
 }  // namespace
 
 ReplacingFile::ReplacingFile(const QString& path) : m_file(path) {
+  refuseOtherThanFile(path);
   if (isReadOnly(path)) refuse(ErrorNumber::FileAccess, path, QStringLiteral("文件是只读的"));
-  if (isReadOnly(directoryOf(path))) refuse(ErrorNumber::FileAccess, path, QStringLiteral("目录是只读的"));
+  const QString directory = directoryOf(path);
+  if (isReadOnly(directory)) refuse(ErrorNumber::FileAccess, path, QStringLiteral("目录是只读的"));
+  if (::access(QFile::encodeName(directory).constData(), W_OK) != 0) {
+    refuse(ErrorNumber::FileAccess, path, systemWords(errno));
+  }
   if (!m_file.open(QIODevice::WriteOnly)) refuse(ErrorNumber::FileAccess, path, m_file.errorString());
 }
 
 void ReplacingFile::write(const QByteArray& bytes) {
-  if (m_file.write(bytes) != bytes.size())
-    refuse(ErrorNumber::FileIo, m_file.fileName(), m_file.errorString());
+  errno = 0;
+  if (m_file.write(bytes) != bytes.size()) refuseWriting();
+}
+
+void ReplacingFile::refuseWriting() {
+  // The file forgets the system's reason when it gives up.
+  const QString why = errno == 0 ? m_file.errorString() : systemWords(errno);
+  refuse(ErrorNumber::FileIo, m_file.fileName(), why);
 }
 
 void ReplacingFile::commit() {
   // The rename must not come before the content is on the disk; QSaveFile syncs too, but takes a failure for
   // success.
-  if (!m_file.flush() || ::fsync(m_file.handle()) != 0) {
-    refuse(ErrorNumber::FileIo, m_file.fileName(), QStringLiteral("内容没有写到磁盘上"));
-  }
-  if (!m_file.commit()) refuse(ErrorNumber::FileIo, m_file.fileName(), m_file.errorString());
+  errno = 0;
+  if (!m_file.flush() || ::fsync(m_file.handle()) != 0 || !m_file.commit()) refuseWriting();
   syncDirectoryOf(m_file.fileName());
 }
 

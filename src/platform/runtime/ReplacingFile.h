@@ -6,8 +6,9 @@
 namespace runtime {
 
 /// A file that takes the place of `path` only when it is complete: it is written aside, synced and renamed by
-/// commit(). Dropped without commit() it leaves the old file as it was. A target without write permission is
-/// refused, for the superuser too. All operations throw FileAccess or FileIo naming the file.
+/// commit(). Dropped without commit() it leaves the old file as it was. A directory, a device and a target
+/// without write permission are refused, for the superuser too. All operations throw FileAccess or FileIo
+/// naming the file.
 class ReplacingFile {
  public:
   explicit ReplacingFile(const QString& path);
@@ -19,6 +20,8 @@ class ReplacingFile {
   void commit();
 
  private:
+  [[noreturn]] void refuseWriting();
+
   QSaveFile m_file;
 };
 

@@ -2,7 +2,6 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -10,6 +9,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "runtime/SystemWords.h"
 #include "store/FileFacts.h"
 #include "store/StoreError.h"
 
@@ -26,10 +26,6 @@ constexpr mode_t newFileMode = 0666;
 
 [[noreturn]] void refuseExisting(const QString& target) {
   refuse(target, QStringLiteral("文件已经存在"));
-}
-
-QString systemWords() {
-  return QString::fromLocal8Bit(std::strerror(errno));
 }
 
 bool synced(const QString& path, int flags) {
@@ -65,7 +61,7 @@ NewFile::NewFile(const QString& target) : m_target(QFileInfo(target).absoluteFil
       ::close(handle);
       return;
     }
-    if (errno != EEXIST) refuse(m_target, systemWords());
+    if (errno != EEXIST) refuse(m_target, runtime::systemWords(errno));
   }
 }
 
@@ -76,10 +72,10 @@ NewFile::~NewFile() {
 }
 
 void NewFile::commit() {
-  if (!synced(m_aside, O_RDWR)) refuse(m_target, systemWords());
+  if (!synced(m_aside, O_RDWR)) refuse(m_target, runtime::systemWords(errno));
   if (!renameToFreeName(QFile::encodeName(m_aside), QFile::encodeName(m_target))) {
     if (errno == EEXIST) refuseExisting(m_target);
-    refuse(m_target, systemWords());
+    refuse(m_target, runtime::systemWords(errno));
   }
   m_committed = true;
   // The new name is durable only when the directory that holds it is synced too. Some file systems cannot
