@@ -1,5 +1,8 @@
 
+#include <QFileInfo>
+
 #include "AdoFile.h"
+#include "support/Files.h"
 
 namespace {
 
@@ -50,6 +53,26 @@ TEST_F(AdoLongBinaries, TellOfTheRowThatHasGoneAndGoOnBehindIt) {
       ASSERT_EQ(shown(rows), expected(i)) << i;
     }
   }
+}
+
+TEST_F(AdoLongBinaries, NeverShowAnotherValueForADamagedOne) {
+  connection = connect();
+  ado::Recordset rows;
+  open(rows, "SELECT * FROM Employee");
+  // Every page of a binary, its last one too.
+  const qint64 middle = QFileInfo(path()).size() / 2 / 4096 * 4096;
+  constexpr int damagedPages = 12;
+  for (int page = 0; page < damagedPages; ++page) support::damageFile(path(), middle + page * 4096 + 500);
+  int failures = 0;
+  for (int i = 0; i < employees; ++i, rows.MoveNext()) {
+    try {
+      ASSERT_EQ(shown(rows), expected(i)) << i;
+    } catch (const ado::AdoError&) {
+      ++failures;
+    }
+  }
+  EXPECT_GE(failures, 1);
+  EXPECT_LE(failures, 3) << "the rows that were read ahead with them are whole";
 }
 
 TEST_F(AdoLongBinaries, ShowWhatWasWrittenToTheRowsAhead) {

@@ -73,6 +73,27 @@ TEST_F(Opening, DamageIsAnErrorAndFoundByTheCheck) {
   EXPECT_FALSE(open()->checkPages().isEmpty());
 }
 
+TEST_F(Opening, ADamagedPageNeverPassesForAnotherValue) {
+  open()->run(QStringLiteral("INSERT INTO Person(PHOTO) VALUES(randomblob(12000))"));
+  const QByteArray whole = contentOf(path());
+  const auto photo = [](store::Database& database) {
+    const auto statement = database.statement(QStringLiteral("SELECT PHOTO FROM Person"));
+    const store::StatementScope scope(*statement);
+    return statement->step() ? statement->value(0).toByteArray() : QByteArray();
+  };
+  const QByteArray before = photo(*open());
+  int failures = 0;
+  for (qint64 page = 4096; page < whole.size(); page += 4096) {
+    writeFile(path(), whole);
+    support::damageFile(path(), page + 500);
+    QByteArray read = before;
+    if (!failure([&] { read = photo(*open()); }).isEmpty()) ++failures;
+    EXPECT_EQ(read, before) << "page " << page / 4096;
+    EXPECT_EQ(open()->checkPages().size(), 1) << "page " << page / 4096;
+  }
+  EXPECT_GE(failures, 3);
+}
+
 TEST_F(Opening, EveryConnectionSyncsItsJournal) {
   const auto database = open();
   EXPECT_EQ(column(*database, QStringLiteral("PRAGMA journal_mode")), QStringList(QStringLiteral("delete")));

@@ -62,12 +62,18 @@ void ReadAhead::readFrom(store::Database& database, std::size_t row, std::size_t
   for (; row < end && bytes < batchBytes; ++row) {
     const QVariant key = keyOfRow(row);
     if (!key.isValid()) continue;
-    statement->reset();
-    statement->bind(1, key);
-    if (!statement->step()) continue;
-    const QVariant value = statement->value(0);
-    bytes += value.toByteArray().size();
-    m_read.emplace(row, value);
+    try {
+      statement->reset();
+      statement->bind(1, key);
+      if (!statement->step()) continue;
+      const QVariant value = statement->value(0);
+      bytes += value.toByteArray().size();
+      m_read.emplace(row, value);
+    } catch (const store::StoreError&) {
+      // The failure belongs to the row that cannot be read; that row is tried again when it is asked for.
+      if (m_read.empty()) throw;
+      return;
+    }
   }
 }
 

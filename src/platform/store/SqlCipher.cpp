@@ -39,6 +39,10 @@ void throwEngineError(sqlite3* handle) {
   throwEngineError(sqlite3_errcode(handle), QString::fromUtf8(sqlite3_errmsg(handle)));
 }
 
+void throwDamage() {
+  throwEngineError(SQLITE_CORRUPT, QString::fromUtf8(sqlite3_errstr(SQLITE_CORRUPT)));
+}
+
 void runPlain(sqlite3* handle, const char* sql) {
   if (sqlite3_exec(handle, sql, nullptr, nullptr, nullptr) != SQLITE_OK) throwEngineError(handle);
 }

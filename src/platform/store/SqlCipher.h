@@ -18,6 +18,8 @@ using Handle = std::unique_ptr<sqlite3, HandleCloser>;
 [[noreturn]] void throwEngineError(int code, const QString& words);
 /// As above, for what last failed on `handle`.
 [[noreturn]] void throwEngineError(sqlite3* handle);
+/// The error of a page that cannot be read.
+[[noreturn]] void throwDamage();
 /// Runs statements without results.
 void runPlain(sqlite3* handle, const char* sql);
 

@@ -1,5 +1,7 @@
 #include "store/SqlCipherDatabase.h"
 
+#include <algorithm>
+
 #include "store/NewFile.h"
 #include "store/SqlCipherStatement.h"
 #include "store/StoreError.h"
@@ -18,7 +20,27 @@ void copyPages(sqlite3* source, sqlite3* target) {
       sqlite3_backup_init(target, "main", source, "main"));
   if (backup == nullptr) throwEngineError(target);
   const int code = sqlite3_backup_step(backup.get(), -1);
+  // A page that cannot be decrypted comes out as no more than "an error".
+  if (code == SQLITE_ERROR) throwDamage();
   if (code != SQLITE_DONE) throwEngineError(code, QString::fromUtf8(sqlite3_errstr(code)));
+}
+
+/// After a page that cannot be decrypted the engine reads no other one: what it says of those is no finding.
+QStringList withoutSequels(const QStringList& findings) {
+  const bool stopped = std::any_of(findings.begin(), findings.end(), [](const QString& finding) {
+    return finding.contains(QLatin1String("unable to get the page"));
+  });
+  QStringList own;
+  for (const QString& finding : findings) {
+    if (finding.startsWith(QLatin1String("***"))) continue;
+    if (stopped && (finding.contains(QLatin1String("unable to get the page")) ||
+                    finding.endsWith(QLatin1String("is never used")))) {
+      continue;
+    }
+    own.append(finding);
+  }
+  // The page that stopped it may have been taken for a binary's end: then there are only sequels.
+  return own.isEmpty() ? findings.mid(findings.size() > 1 ? 1 : 0, 1) : own;
 }
 
 }  // namespace
@@ -63,13 +85,12 @@ QStringList SqlCipherDatabase::checkPages() {
     // Pages in this connection's cache would hide damage on the disk.
     const Handle fresh = openExisting(m_opening);
     SqlCipherStatement check(fresh.get(), QStringLiteral("PRAGMA integrity_check"));
-    while (check.step()) findings.append(check.value(0).toString());
+    while (check.step()) findings += check.value(0).toString().split(u'\n', Qt::SkipEmptyParts);
   } catch (const StoreError& error) {
     if (error.number() == static_cast<int>(StoreCode::Busy)) throw;
-    findings.append(error.description());
+    if (findings.isEmpty()) findings.append(error.description());
   }
-  if (findings == QStringList{QStringLiteral("ok")}) findings.clear();
-  return findings;
+  return findings == QStringList{QStringLiteral("ok")} ? QStringList() : withoutSequels(findings);
 }
 
 }  // namespace store

@@ -4,16 +4,28 @@
 
 namespace store {
 
+namespace {
+
+// A row whose binaries are shorter has no pages of its own.
+constexpr int longBinary = 1024;
+
+sqlite3_stmt* prepared(sqlite3* handle, const char* sql, int size) {
+  sqlite3_stmt* statement = nullptr;
+  if (sqlite3_prepare_v2(handle, sql, size, &statement, nullptr) != SQLITE_OK) throwEngineError(handle);
+  return statement;
+}
+
+}  // namespace
+
 SqlCipherStatement::SqlCipherStatement(sqlite3* handle, const QString& sql) : m_handle(handle) {
   const QByteArray text = sql.toUtf8();
   const auto size = static_cast<int>(text.size()) + 1;
-  if (sqlite3_prepare_v2(handle, text.constData(), size, &m_statement, nullptr) != SQLITE_OK) {
-    throwEngineError(handle);
-  }
+  m_statement = prepared(handle, text.constData(), size);
   if (m_statement == nullptr) throwEngineError(SQLITE_ERROR, QStringLiteral("empty statement"));
 }
 
 SqlCipherStatement::~SqlCipherStatement() {
+  sqlite3_finalize(m_probe);
   sqlite3_finalize(m_statement);
 }
 
@@ -47,9 +59,31 @@ void SqlCipherStatement::bind(int position, const QVariant& value) {
 
 bool SqlCipherStatement::step() {
   const int code = sqlite3_step(m_statement);
-  if (code == SQLITE_ROW) return true;
+  if (code == SQLITE_ROW) {
+    if (holdsLongBinary()) requireWholePages();
+    return true;
+  }
   if (code != SQLITE_DONE) throwEngineError(m_handle);
   return false;
+}
+
+bool SqlCipherStatement::holdsLongBinary() const {
+  for (int index = sqlite3_data_count(m_statement) - 1; index >= 0; --index) {
+    if (sqlite3_column_type(m_statement, index) == SQLITE_BLOB &&
+        sqlite3_column_bytes(m_statement, index) >= longBinary) {
+      return true;
+    }
+  }
+  return false;
+}
+
+/// The engine hands out a page that cannot be decrypted as zeros, and fails only at the next page that it
+/// reads: when it was the last one of a long binary, that failure would never be seen.
+void SqlCipherStatement::requireWholePages() {
+  if (m_probe == nullptr) m_probe = prepared(m_handle, "SELECT 1 FROM sqlite_master", -1);
+  const int code = sqlite3_step(m_probe);
+  sqlite3_reset(m_probe);
+  if (code != SQLITE_ROW) throwDamage();
 }
 
 void SqlCipherStatement::reset() noexcept {

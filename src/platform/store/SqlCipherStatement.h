@@ -22,10 +22,14 @@ class SqlCipherStatement : public Statement {
   [[nodiscard]] QVariant value(int index) const override;
 
  private:
+  [[nodiscard]] bool holdsLongBinary() const;
+  void requireWholePages();
   [[nodiscard]] QByteArray bytes(int index) const;
 
   sqlite3* m_handle;
   sqlite3_stmt* m_statement = nullptr;
+  /// Reads one page; made when first needed.
+  sqlite3_stmt* m_probe = nullptr;
   /// Long binaries are bound where they stand.
   std::vector<QByteArray> m_bound;
 };
