@@ -2,6 +2,7 @@
 
 #include <limits>
 
+#include "ado/AdoError.h"
 #include "ado/Recordset.h"
 #include "cli/Database.h"
 #include "foundation/Schema.h"
@@ -14,6 +15,8 @@ namespace cli {
 
 namespace {
 
+// The engine's number for a page that cannot be read.
+constexpr int damagedPage = 11;
 constexpr qint64 largestDepartment = std::numeric_limits<std::int16_t>::max();
 
 QString oneLine(QString text) {
@@ -106,7 +109,7 @@ void DatabaseCheck::checkEmployee(ado::Recordset& rows) {
   if (barcode.isEmpty()) m_report(who + QStringLiteral("没有条码"));
   if (m_sameBarcode.contains(id))
     m_report(who + QStringLiteral("条码“%1”与其他员工相同").arg(oneLine(barcode)));
-  checkPhoto(who, rows.Fields(QStringLiteral("HEADIMG")).Value());
+  checkPhoto(who, rows.Fields(QStringLiteral("HEADIMG")));
 }
 
 void DatabaseCheck::checkNumber(const QString& who, const QString& number) {
@@ -119,8 +122,16 @@ void DatabaseCheck::checkNumber(const QString& who, const QString& number) {
   }
 }
 
-void DatabaseCheck::checkPhoto(const QString& who, const QVariant& photo) {
-  const QByteArray bytes = photo.toByteArray();
+void DatabaseCheck::checkPhoto(const QString& who, const ado::Field& photo) {
+  QByteArray bytes;
+  try {
+    bytes = photo.Value().toByteArray();
+  } catch (const ado::AdoError& error) {
+    if (error.number() != damagedPage) throw;
+    // Where a page is damaged the other photos may still be read.
+    m_report(who + QStringLiteral("照片无法读取：") + error.description());
+    return;
+  }
   if (bytes.isEmpty()) {
     m_report(who + QStringLiteral("没有照片"));
     return;

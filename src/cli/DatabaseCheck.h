@@ -9,8 +9,9 @@
 #include "ado/Connection.h"
 
 namespace ado {
+class Field;
 class Recordset;
-}
+}  // namespace ado
 
 namespace cli {
 
@@ -33,7 +34,7 @@ class DatabaseCheck {
   void checkEmployees();
   void checkEmployee(ado::Recordset& rows);
   void checkNumber(const QString& who, const QString& number);
-  void checkPhoto(const QString& who, const QVariant& photo);
+  void checkPhoto(const QString& who, const ado::Field& photo);
   /// The IDs of employees that share their value of `column` with another one.
   [[nodiscard]] QSet<int> sharing(const QString& column) const;
 

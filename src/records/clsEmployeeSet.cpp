@@ -52,6 +52,17 @@ void fillOrName(clsEmployee& employee, const Columns& row) {
   }
 }
 
+/// The photo; an error names the employee.
+QVariant photoOrName(const Columns& row) {
+  try {
+    return row.headImg.Value();
+  } catch (const runtime::RuntimeError& error) {
+    throw runtime::RuntimeError(error.number(),
+                                QStringLiteral("编号为[%1]的员工的照片无法读取：%2")
+                                    .arg(row.enumber.Value().toString(), error.description()));
+  }
+}
+
 }  // namespace
 
 bool clsEmployeeSet::LoadSet() {
@@ -63,7 +74,7 @@ bool clsEmployeeSet::LoadSet() {
   for (int done = 1; !rows.IsEOF(); rows.MoveNext(), ++done) {
     const auto employee = std::make_shared<clsEmployee>();
     fillOrName(*employee, row);
-    employee->setHeadImg(writePhotoFile(employee->ENUMBER(), row.headImg.Value()));
+    employee->setHeadImg(writePhotoFile(employee->ENUMBER(), photoOrName(row)));
     Add(employee);
     runtime::reportProgress(done, rows.RecordCount());
   }

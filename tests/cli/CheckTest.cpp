@@ -63,9 +63,14 @@ TEST_F(Check, EveryFaultIsOneLine) {
 TEST_F(Check, ADamagedPageIsFound) {
   insert(QStringLiteral("A1"), QByteArray(200'000, 'x'), QStringLiteral("100000000000001"));
   support::damageFile(home.databaseFile(), -100'000);
+  insert(QStringLiteral("A2"), "no picture", QStringLiteral("100000000000002"));
   const Outcome outcome = check();
   EXPECT_EQ(outcome.code, 1);
-  EXPECT_TRUE(outcome.out.contains(QStringLiteral("数据库已损坏"))) << outcome.out.toStdString();
+  const QStringList lines = outcome.out.split(u'\n', Qt::SkipEmptyParts);
+  ASSERT_EQ(lines.size(), 3) << "what follows from the damage is not told: " << outcome.out.toStdString();
+  EXPECT_TRUE(lines[0].startsWith(QStringLiteral("数据库已损坏：")));
+  EXPECT_TRUE(lines[1].startsWith(QStringLiteral("员工“A1”（某）：照片无法读取：")));
+  EXPECT_TRUE(lines[2].startsWith(QStringLiteral("员工“A2”（某）：照片不是")));
 }
 
 }  // namespace

@@ -70,6 +70,12 @@ TEST_F(EmployeeSet, ErrorsNameTheEmployee) {
 
   m_home.execute(QStringLiteral("UPDATE Employee SET ENAME = NULL WHERE ENUMBER = '../x'"));
   EXPECT_EQ(failure().find("编号为[../x]的员工无法载入："), 0U);
+
+  m_home.execute(QStringLiteral("DELETE FROM Employee WHERE ENUMBER = '../x'"));
+  m_home.insertEmployee(QStringLiteral("D3"), QStringLiteral("李四"), 1, QByteArray(50'000, 'x'));
+  gConnection.reset();
+  support::damageFile(m_home.databaseFile(), -20'000);
+  EXPECT_EQ(failure().find("编号为[D3]的员工的照片无法读取："), 0U);
   EXPECT_TRUE(photoFiles().isEmpty());
 }
 
