@@ -38,9 +38,10 @@ void localize(CLI::App& app) {
   app.set_help_flag("-h,--help", "显示帮助")->group("选项");
 }
 
-CLI::Option* addHome(CLI::App& app) {
+CLI::Option* addHome(CLI::App& app, bool mustBeNamed) {
   return app.add_option("--home")
-      ->description("程序目录（默认取环境变量 ATTENDANCE_HOME，再取程序所在目录）")
+      ->description(mustBeNamed ? "要建立的程序目录（默认取环境变量 ATTENDANCE_HOME）"
+                                : "程序目录（默认取环境变量 ATTENDANCE_HOME，再取程序所在目录）")
       ->option_text("DIR")
       ->group("选项");
 }
@@ -129,7 +130,7 @@ std::optional<int> CommandLine::parse(const QStringList& arguments, const Stream
   CLI::App app("考勤管理的命令行工具", "attendancectl");
   localize(app);
   app.set_version_flag("--version", m_version.toStdString(), "显示版本")->group("选项");
-  const CLI::Option* homeBefore = addHome(app);
+  const CLI::Option* homeBefore = addHome(app, false);
   app.require_subcommand(0, 1);
   app.allow_extras();
 
@@ -144,7 +145,7 @@ std::optional<int> CommandLine::parse(const QStringList& arguments, const Stream
     for (const Option& option : m_commands[i]->options()) {
       bound[i].push_back({option, addOption(*parser, option)});
     }
-    homesBehind.push_back(addHome(*parser));
+    homesBehind.push_back(addHome(*parser, m_commands[i]->needsNamedHome()));
     parsers.push_back(parser);
   }
 

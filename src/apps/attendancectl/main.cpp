@@ -2,6 +2,7 @@
 #include <cstdio>
 #include <langinfo.h>
 #include <memory>
+#include <unistd.h>
 
 #include <QFile>
 #include <QFileInfo>
@@ -18,11 +19,13 @@ void useUtf8() {
   if (qstrcmp(nl_langinfo(CODESET), "UTF-8") != 0) qputenv("LC_ALL", "C.UTF-8");
 }
 
+/// Only such a directory of the user's own is taken as a session's.
 bool isPrivateDirectory(const QString& path) {
   const QFileInfo info(path);
   constexpr auto others = QFileDevice::ReadGroup | QFileDevice::WriteGroup | QFileDevice::ExeGroup |
                           QFileDevice::ReadOther | QFileDevice::WriteOther | QFileDevice::ExeOther;
-  return !path.isEmpty() && info.isDir() && (info.permissions() & others) == 0;
+  return !path.isEmpty() && info.isDir() && info.ownerId() == ::geteuid() &&
+         (info.permissions() & others) == 0;
 }
 
 /// What drawing needs where nobody is logged in to a desktop, as in a timer's job.
