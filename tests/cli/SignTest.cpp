@@ -76,19 +76,4 @@ TEST_F(Sign, StandardInputIsAnsweredLineByLine) {
   EXPECT_EQ(process->exitCode(), 1);
 }
 
-TEST_F(Sign, OneCardAtSeveralStationsSignsInOnce) {
-  QStringList codes{sign};
-  for (int i = 0; i < 20; ++i) {
-    const QString number = QStringLiteral("B%1").arg(i);
-    codes.append(QStringLiteral("3000000000000%1").arg(i, 2, 10, QLatin1Char('0')));
-    home.insertEmployee(number, number, 1, support::TestHome::tinyJpeg(), codes.last());
-  }
-  const auto first = start(codes);
-  const auto second = start(codes);
-  const QString output = outputOf(*first) + outputOf(*second);
-  EXPECT_EQ(output.count(QStringLiteral("\t1\t签到成功")), 20) << output.toStdString();
-  EXPECT_EQ(output.count(QStringLiteral("\t4\t请勿重复刷卡")), 20) << output.toStdString();
-  EXPECT_EQ(home.single(QStringLiteral("SELECT COUNT(*) FROM Presence")), QStringLiteral("20"));
-}
-
 }  // namespace
