@@ -6,6 +6,7 @@
 #include "cli/DemoCommand.h"
 #include "cli/InitCommand.h"
 #include "cli/ListCommand.h"
+#include "cli/MonthCommand.h"
 #include "cli/RemoveCommand.h"
 #include "cli/SignCommand.h"
 #include "cli/TodayCommand.h"
@@ -21,8 +22,8 @@ std::unique_ptr<Command> make() {
 
 using Maker = std::unique_ptr<Command> (*)();
 constexpr Maker makers[] = {
-    make<InitCommand>,   make<DemoCommand>,  make<ListCommand>, make<CardsCommand>, make<RemoveCommand>,
-    make<BackupCommand>, make<CheckCommand>, make<SignCommand>, make<TodayCommand>,
+    make<InitCommand>, make<DemoCommand>,  make<ListCommand>,   make<CardsCommand>,  make<MonthCommand>,
+    make<SignCommand>, make<TodayCommand>, make<RemoveCommand>, make<BackupCommand>, make<CheckCommand>,
 };
 
 }  // namespace

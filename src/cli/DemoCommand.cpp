@@ -1,8 +1,7 @@
 #include "cli/DemoCommand.h"
 
-#include <QRegularExpression>
-
 #include "ado/Recordset.h"
+#include "attendance/AttendanceMonth.h"
 #include "cli/Database.h"
 #include "cli/DemoPeople.h"
 #include "cli/NewHome.h"
@@ -20,14 +19,6 @@ namespace {
 
 constexpr int mostEmployees = 100'000;
 constexpr int mostPhotoKb = 2'048;
-
-/// The first day of the month that `text` names, or an invalid date.
-QDate firstOfMonth(const QString& text) {
-  static const QRegularExpression form(QStringLiteral("^[0-9]{4}-[0-9]{2}$"));
-  if (!form.match(text).hasMatch()) return {};
-  const QDate day = QDate::fromString(text + QStringLiteral("-01"), QStringLiteral("yyyy-MM-dd"));
-  return day.year() >= 1900 ? day : QDate();
-}
 
 void require(bool written) {
   if (!written) throw runtime::RuntimeError(runtime::ErrorNumber::FileIo, QStringLiteral("无法写入设置文件"));
@@ -97,14 +88,13 @@ std::vector<Option> DemoCommand::options() {
 }
 
 QString DemoCommand::usageFault() const {
-  if (m_month.isEmpty() || firstOfMonth(m_month).isValid()) return {};
+  if (m_month.isEmpty() || AttendanceMonth::parse(m_month)) return {};
   return QStringLiteral("“%1”不是 2026-11 这样的月份").arg(m_month);
 }
 
 std::vector<QDate> DemoCommand::days() const {
-  if (!m_month.isEmpty()) {
-    const QDate first = firstOfMonth(m_month);
-    return workingDays(first, first.addMonths(1).addDays(-1));
+  if (const auto month = AttendanceMonth::parse(m_month)) {
+    return workingDays(month->firstDay(), month->lastDay());
   }
   const QDate today = runtime::now().date();
   const QDate first(today.year(), today.month(), 1);

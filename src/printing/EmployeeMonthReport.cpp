@@ -84,7 +84,7 @@ void designHeader(Section& header) {
       makeTitle(QStringLiteral("lblSchoolName"), {1134, 0, 1701, 425}, QStringLiteral("校区名"),
                 Qt::AlignRight),
       makeTitle(QStringLiteral("Label125"), {2835, 0, 992, 425}, QStringLiteral("校区"), Qt::AlignLeft),
-      makeTitle(QStringLiteral("lblMonth"), {3827, 0, 567, 425}, QStringLiteral("月份"), Qt::AlignRight),
+      makeTitle(QStringLiteral("lblMonth"), {3827, 0, 567, 425}, QStringLiteral("月份"), Qt::AlignHCenter),
       makeTitle(QStringLiteral("Label1"), {4394, 0, 2976, 425}, QStringLiteral("月员工考勤报表"),
                 Qt::AlignLeft),
       makeCell(QStringLiteral("Label2"), {0, headerTop, nameWidth, halfBand}, QStringLiteral("姓名"),
