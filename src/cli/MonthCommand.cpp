@@ -22,10 +22,7 @@ using Writer = int (*)(const AttendanceMonth& month, const QString& unit, const 
 
 int writeReport(const AttendanceMonth& month, const QString& unit, const QString& path) {
   EmployeeMonthReport report;
-  report.schoolName = unit;
-  report.presenceYear = static_cast<std::int16_t>(month.year());
-  report.presenceMonth = static_cast<std::int16_t>(month.month());
-  report.presenceList = loadMonth(month);
+  report.setMonth(month, unit, loadMonth(month));
   report::writePdf(report.run(), path);
   return report.presenceList->Count();
 }

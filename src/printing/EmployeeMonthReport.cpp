@@ -1,6 +1,5 @@
 #include "printing/EmployeeMonthReport.h"
 
-#include "attendance/AttendanceMonth.h"
 #include "foundation/GlobalDefine.h"
 #include "runtime/Clock.h"
 #include "runtime/Conversions.h"
@@ -136,6 +135,14 @@ EmployeeMonthReport::EmployeeMonthReport() {
   designHeader(PageHeader);
   designDetail(Detail);
   designFooter(PageFooter);
+}
+
+void EmployeeMonthReport::setMonth(const AttendanceMonth& month, const QString& unit,
+                                   std::shared_ptr<clsEmployeePresenceSet> presence) {
+  schoolName = unit;
+  presenceYear = static_cast<std::int16_t>(month.year());
+  presenceMonth = static_cast<std::int16_t>(month.month());
+  presenceList = std::move(presence);
 }
 
 int EmployeeMonthReport::expectedBands() const {

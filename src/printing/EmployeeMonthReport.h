@@ -7,6 +7,7 @@
 
 #include <QDate>
 
+#include "attendance/AttendanceMonth.h"
 #include "attendance/clsEmployeePresenceSet.h"
 #include "report/ActiveReport.h"
 
@@ -15,6 +16,10 @@
 class EmployeeMonthReport : public report::ActiveReport {
  public:
   EmployeeMonthReport();
+
+  /// Sets all that is below.
+  void setMonth(const AttendanceMonth& month, const QString& unit,
+                std::shared_ptr<clsEmployeePresenceSet> presence);
 
   /// Name of the unit in the heading.
   QString schoolName;

@@ -39,6 +39,10 @@ constexpr std::array tree = {
     MenuEntry{L1("Opt"), L1("mnuEmpExport"), u"导出(&O)"},
     MenuEntry{L1("Opt"), L1("mnuEmpPrint"), u"打印签到卡(&P)", &frmMain::mnuEmpPrint_Click},
 
+    MenuEntry{L1(), L1("mnuAttendance"), u"考勤(&K)"},
+    MenuEntry{L1("mnuAttendance"), L1("mnuMonthReport"), u"月考勤报表(&M)...",
+              &frmMain::mnuMonthReport_Click},
+
     MenuEntry{L1(), L1("mnuHelp"), u"帮助(&H)"},
     MenuEntry{L1("mnuHelp"), L1("mnuHelpFile"), u"帮助文件(&F)", &frmMain::mnuHelpFile_Click},
     MenuEntry{L1("mnuHelp"), L1("mnuVistHomePage"), u"访问官方网站(&V)", &frmMain::mnuVistHomePage_Click},

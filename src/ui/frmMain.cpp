@@ -20,6 +20,7 @@
 #include "ui/ItemKey.h"
 #include "ui/LoadProgress.h"
 #include "ui/RecordRemoval.h"
+#include "ui/frmMonthReport.h"
 #include "ui/mdlInternet.h"
 
 namespace {
@@ -265,6 +266,10 @@ void frmMain::NotePrinting(int cards) {
     note += QStringLiteral("，跳过 %1 名：").arg(skipped.size()) + skipped.join(QStringLiteral("、"));
   }
   m_status.note(note);
+}
+
+void frmMain::mnuMonthReport_Click() {
+  frmMonthReport(this).exec();
 }
 
 void frmMain::mnuHelpFile_Click() {

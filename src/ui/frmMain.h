@@ -40,6 +40,7 @@ class frmMain : public QMainWindow, public MainForm {
   void mnuDeptDsp_Click();
   void mnuEmpDsp_Click();
   void mnuEmpPrint_Click();
+  void mnuMonthReport_Click();
   void mnuHelpFile_Click();
   void mnuVistHomePage_Click();
   void mnuPop_Append_Click();

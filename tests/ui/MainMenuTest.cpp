@@ -40,6 +40,8 @@ Opt 员工(&E)
   mnuSplit4 -
   mnuEmpExport 导出(&O)
   mnuEmpPrint 打印签到卡(&P)
+mnuAttendance 考勤(&K)
+  mnuMonthReport 月考勤报表(&M)...
 mnuHelp 帮助(&H)
   mnuHelpFile 帮助文件(&F)
   mnuVistHomePage 访问官方网站(&V)
@@ -53,9 +55,9 @@ mnuPopMenu 弹出菜单
 
 constexpr std::array departmentEntries = {"mnuDeptAppend", "mnuDeptRemove", "mnuDeptEdit", "mnuDeptExport"};
 constexpr std::array employeeEntries = {"mnuEmpImport", "mnuEmpExport", "mnuEmpPrint", "mnuEmpRemove"};
-constexpr std::array alwaysEnabled = {"mnuCardInfoSet", "mnuExit",       "mnuDeptDsp",     "mnuEmpDsp",
-                                      "mnuAbout",       "mnuPop_Append", "mnuPop_Edit",    "mnuPop_Remove",
-                                      "mnuHelpFile",    "mnuPop_Export", "mnuVistHomePage"};
+constexpr std::array alwaysEnabled = {"mnuCardInfoSet", "mnuExit",     "mnuDeptDsp",    "mnuEmpDsp",
+                                      "mnuMonthReport", "mnuAbout",    "mnuPop_Append", "mnuPop_Edit",
+                                      "mnuPop_Remove",  "mnuHelpFile", "mnuPop_Export", "mnuVistHomePage"};
 
 class MainMenu : public MainWindow {
  protected:

@@ -36,11 +36,15 @@ PrintProgress shownBy(QProgressDialog& window) {
 
 }  // namespace
 
-QString pdfNameFor(const QString& title) {
+QString fileNameFor(const QString& title, const QString& ending) {
   static const QRegularExpression refused(QStringLiteral("[/\\\\:*?\"<>|\\x00-\\x1f]"));
   QString name = title.trimmed();
   name.replace(refused, QStringLiteral("_"));
-  return (name.isEmpty() ? QStringLiteral("报表") : name) + QStringLiteral(".pdf");
+  return (name.isEmpty() ? QStringLiteral("报表") : name) + ending;
+}
+
+QString pdfNameFor(const QString& title) {
+  return fileNameFor(title, QStringLiteral(".pdf"));
 }
 
 DocumentOutput::DocumentOutput(report::Document document, std::unique_ptr<Printers> printers, QWidget* window)

@@ -31,7 +31,8 @@ class DocumentOutput {
   QWidget* m_window;
 };
 
-/// A file name made of `title`, without the characters that file systems refuse.
+/// A file name made of `title` and `ending`, without the characters that file systems refuse.
+[[nodiscard]] QString fileNameFor(const QString& title, const QString& ending);
 [[nodiscard]] QString pdfNameFor(const QString& title);
 
 }  // namespace preview
