@@ -5,7 +5,6 @@
 
 namespace {
 
-
 class EmployeeSet : public RecordsTest {
  protected:
   void SetUp() override { addDepartment(QStringLiteral("Sales")); }
