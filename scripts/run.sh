@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs what is needed, builds, makes a demo home once and starts the main window on it. Without a display it
-# prints the cards and a screenshot into the demo home instead.
+# prints the cards, last month's report and a screenshot into the demo home instead.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -23,5 +23,7 @@ if [[ -n ${DISPLAY:-}${WAYLAND_DISPLAY:-} ]]; then
   exec "$bin/attendance" --home "$home" "$@"
 fi
 "$bin/attendancectl" --home "$home" cards --all --out "$home/cards.pdf"
+month=$(date -d "$(date +%Y-%m-01) -1 day" +%Y-%m)
+"$bin/attendancectl" --home "$home" month "$month" --out "$home/month.pdf"
 QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES=default.warning=false "$bin/attendance" --home "$home" --screenshot "$home/main-window.png"
-echo "There is no display. The cards are in $home/cards.pdf, a screenshot is in $home/main-window.png."
+echo "There is no display. The cards are in $home/cards.pdf, the report of $month in $home/month.pdf, a screenshot is in $home/main-window.png."

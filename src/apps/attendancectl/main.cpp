@@ -19,7 +19,7 @@ void useUtf8() {
   if (qstrcmp(nl_langinfo(CODESET), "UTF-8") != 0) qputenv("LC_ALL", "C.UTF-8");
 }
 
-/// Only such a directory of the user's own is taken as a session's.
+/// Whether it is a directory of the user's own that nobody else may enter: Qt refuses any other.
 bool isPrivateDirectory(const QString& path) {
   const QFileInfo info(path);
   constexpr auto others = QFileDevice::ReadGroup | QFileDevice::WriteGroup | QFileDevice::ExeGroup |
