@@ -6,6 +6,6 @@ target_compile_definitions(flags INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_A
                                            QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 if(ATTENDANCE_SANITIZE)
   target_compile_options(flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=undefined
-                                         -fno-omit-frame-pointer -O1)
+                                         -fno-omit-frame-pointer)
   target_link_options(flags INTERFACE -fsanitize=address,undefined)
 endif()
