@@ -2,6 +2,7 @@
 
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QProcess>
 
 namespace shell {
 
@@ -15,6 +16,15 @@ bool DesktopShell::open(const QString& target) {
   // The desktop's opener starts before it notices that the file is missing, and would report success.
   if (url.isLocalFile() && !QFileInfo::exists(url.toLocalFile())) return false;
   return QDesktopServices::openUrl(url);
+}
+
+bool DesktopShell::start(const QString& program) {
+  // A bare name would start whatever the search path finds first.
+  return QFileInfo(program).isAbsolute() && QProcess::startDetached(program, QStringList());
+}
+
+QString DesktopShell::registryFile(RootKey root) const {
+  return root == RootKey::LocalMachine ? m_registryFile : QString();
 }
 
 }  // namespace shell

@@ -16,4 +16,12 @@ bool openTarget(const QString& target) {
   return installed && installed->open(target);
 }
 
+bool startProgram(const QString& program) {
+  return installed && installed->start(program);
+}
+
+QString registryFile(RootKey root) {
+  return installed ? installed->registryFile(root) : QString();
+}
+
 }  // namespace shell
