@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include "ui/HelpMenu.h"
 #include "ui/frmMain.h"
 
 namespace {
@@ -15,45 +16,51 @@ using L1 = QLatin1String;
 
 constexpr QStringView separatorCaption = u"-";
 
+/// The handler that calls a method of the window.
+template <void (frmMain::*Method)()>
+void method(frmMain& window) {
+  (window.*Method)();
+}
+
 constexpr std::array tree = {
     MenuEntry{L1(), L1("mnuSys"), u"系统(&S)"},
     MenuEntry{L1("mnuSys"), L1("mnuCardInfoSet"), u"签到卡信息设置(&C)"},
     MenuEntry{L1("mnuSys"), L1("mnuSplit1_1"), separatorCaption},
-    MenuEntry{L1("mnuSys"), L1("mnuExit"), u"退出(&X)", &frmMain::mnuExit_Click},
+    MenuEntry{L1("mnuSys"), L1("mnuExit"), u"退出(&X)", method<&frmMain::mnuExit_Click>},
 
     MenuEntry{L1(), L1("menDeptMange"), u"部门(&D)"},
-    MenuEntry{L1("menDeptMange"), L1("mnuDeptDsp"), u"显示列表(&D)", &frmMain::mnuDeptDsp_Click},
+    MenuEntry{L1("menDeptMange"), L1("mnuDeptDsp"), u"显示列表(&D)", method<&frmMain::mnuDeptDsp_Click>},
     MenuEntry{L1("menDeptMange"), L1("mnuSplit2"), separatorCaption},
     MenuEntry{L1("menDeptMange"), L1("mnuDeptAppend"), u"追加(&A)"},
-    MenuEntry{L1("menDeptMange"), L1("mnuDeptRemove"), u"删除(&R)", &frmMain::RemoveSelectedDepts},
+    MenuEntry{L1("menDeptMange"), L1("mnuDeptRemove"), u"删除(&R)", method<&frmMain::RemoveSelectedDepts>},
     MenuEntry{L1("menDeptMange"), L1("mnuDeptEdit"), u"修改(&E)"},
     MenuEntry{L1("menDeptMange"), L1("mnuSplit3"), separatorCaption},
     MenuEntry{L1("menDeptMange"), L1("mnuDeptExport"), u"导出(&O)"},
 
     MenuEntry{L1(), L1("Opt"), u"员工(&E)"},
-    MenuEntry{L1("Opt"), L1("mnuEmpDsp"), u"显示列表(&D)", &frmMain::mnuEmpDsp_Click},
+    MenuEntry{L1("Opt"), L1("mnuEmpDsp"), u"显示列表(&D)", method<&frmMain::mnuEmpDsp_Click>},
     MenuEntry{L1("Opt"), L1("mnuSplit1"), separatorCaption},
     MenuEntry{L1("Opt"), L1("mnuEmpImport"), u"导入初始信息(&I)"},
-    MenuEntry{L1("Opt"), L1("mnuEmpRemove"), u"删除(&R)", &frmMain::RemoveSelectedEmps},
+    MenuEntry{L1("Opt"), L1("mnuEmpRemove"), u"删除(&R)", method<&frmMain::RemoveSelectedEmps>},
     MenuEntry{L1("Opt"), L1("mnuSplit4"), separatorCaption},
     MenuEntry{L1("Opt"), L1("mnuEmpExport"), u"导出(&O)"},
-    MenuEntry{L1("Opt"), L1("mnuEmpPrint"), u"打印签到卡(&P)", &frmMain::mnuEmpPrint_Click},
+    MenuEntry{L1("Opt"), L1("mnuEmpPrint"), u"打印签到卡(&P)", method<&frmMain::mnuEmpPrint_Click>},
 
     MenuEntry{L1(), L1("mnuAttendance"), u"考勤(&K)"},
     MenuEntry{L1("mnuAttendance"), L1("mnuMonthReport"), u"月考勤报表(&M)...",
-              &frmMain::mnuMonthReport_Click},
+              method<&frmMain::mnuMonthReport_Click>},
 
     MenuEntry{L1(), L1("mnuHelp"), u"帮助(&H)"},
-    MenuEntry{L1("mnuHelp"), L1("mnuHelpFile"), u"帮助文件(&F)", &frmMain::mnuHelpFile_Click},
-    MenuEntry{L1("mnuHelp"), L1("mnuVistHomePage"), u"访问官方网站(&V)", &frmMain::mnuVistHomePage_Click},
-    MenuEntry{L1("mnuHelp"), L1("mnuAbout"), u"关于(&A)"},
+    MenuEntry{L1("mnuHelp"), L1("mnuHelpFile"), u"帮助文件(&F)", mnuHelpFile_Click},
+    MenuEntry{L1("mnuHelp"), L1("mnuVistHomePage"), u"访问官方网站(&V)", mnuVistHomePage_Click},
+    MenuEntry{L1("mnuHelp"), L1("mnuAbout"), u"关于(&A)", mnuAbout_Click},
 
     MenuEntry{L1(), popMenuName, u"弹出菜单"},
-    MenuEntry{popMenuName, L1("mnuPop_Append"), u"添加(&A)", &frmMain::mnuPop_Append_Click},
-    MenuEntry{popMenuName, L1("mnuPop_Remove"), u"删除(&R)", &frmMain::mnuPop_Remove_Click},
-    MenuEntry{popMenuName, L1("mnuPop_Edit"), u"修改(&E)", &frmMain::mnuPop_Edit_Click},
+    MenuEntry{popMenuName, L1("mnuPop_Append"), u"添加(&A)", method<&frmMain::mnuPop_Append_Click>},
+    MenuEntry{popMenuName, L1("mnuPop_Remove"), u"删除(&R)", method<&frmMain::mnuPop_Remove_Click>},
+    MenuEntry{popMenuName, L1("mnuPop_Edit"), u"修改(&E)", method<&frmMain::mnuPop_Edit_Click>},
     MenuEntry{popMenuName, L1("mnuSplit5"), separatorCaption},
-    MenuEntry{popMenuName, L1("mnuPop_Export"), u"导出(&O)", &frmMain::mnuPop_Export_Click},
+    MenuEntry{popMenuName, L1("mnuPop_Export"), u"导出(&O)", method<&frmMain::mnuPop_Export_Click>},
 };
 
 }  // namespace

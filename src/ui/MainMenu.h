@@ -11,7 +11,8 @@ class frmMain;
 
 /// One entry of the main window's menu tree.
 struct MenuEntry {
-  using Handler = void (frmMain::*)();
+  /// A free function: what opens a dialog stands in a file of its own and not in the window.
+  using Handler = void (*)(frmMain& window);
 
   /// Name of the menu that holds the entry; empty for a top-level menu.
   QLatin1String parent;

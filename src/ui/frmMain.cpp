@@ -11,17 +11,15 @@
 #include <QStatusBar>
 
 #include "dialogs/Dialogs.h"
-#include "foundation/GlobalDefine.h"
 #include "graphics/Twips.h"
 #include "records/clsDeptSet.h"
-#include "runtime/ProgramDirectory.h"
 #include "runtime/RuntimeError.h"
 #include "ui/ApplicationIcon.h"
 #include "ui/ItemKey.h"
 #include "ui/LoadProgress.h"
+#include "ui/ProgramTitle.h"
 #include "ui/RecordRemoval.h"
 #include "ui/frmMonthReport.h"
-#include "ui/mdlInternet.h"
 
 namespace {
 
@@ -60,7 +58,7 @@ frmMain::frmMain() : lsvData(new RecordList), m_status(*statusBar()), m_cards(*l
 
 void frmMain::BuildWindow() {
   setObjectName(QStringLiteral("frmMain"));
-  setWindowTitle(QStringLiteral("签到系统"));
+  setWindowTitle(programTitle);
   setWindowIcon(applicationIcon());
   buildMainMenu(*this, [this](const MenuEntry& entry) {
     if (entry.handler) Run(entry.handler);
@@ -110,7 +108,7 @@ void frmMain::Run(MenuEntry::Handler handler) {
   const QScopedValueRollback running(m_running, true);
   m_status.note({});
   try {
-    (this->*handler)();
+    handler(*this);
   } catch (const runtime::RuntimeError& error) {
     Report(error.description());
   } catch (const std::exception& error) {
@@ -181,6 +179,7 @@ void frmMain::ShowDeptList() {
   for (const auto& dept : departments) AddDeptItem(*dept);
   const QString& failure = departments.firstFailure();
   if (!failure.isEmpty()) m_status.note(QStringLiteral("部门列表未能完整读取：") + failure);
+  UpdateCounts();
 }
 
 void frmMain::ShowEmpList() {
@@ -209,7 +208,7 @@ void frmMain::RemoveSelectedEmps() {
 }
 
 void frmMain::Form_Load() {
-  Run(&frmMain::mnuEmpDsp_Click);
+  Run(menuEntry(L1("mnuEmpDsp")).handler);
   emit Loaded();
 }
 
@@ -236,7 +235,6 @@ void frmMain::mnuDeptDsp_Click() {
   CheckList(L1("mnuDeptDsp"), L1("mnuEmpDsp"));
   ShowDeptList();
   UpdateMenuState();
-  UpdateCounts();
 }
 
 void frmMain::mnuEmpDsp_Click() {
@@ -272,23 +270,11 @@ void frmMain::mnuMonthReport_Click() {
   frmMonthReport(this).exec();
 }
 
-void frmMain::mnuHelpFile_Click() {
-  Open(runtime::appFile(QStringLiteral("HELP.CHM")));
-}
-
-void frmMain::mnuVistHomePage_Click() {
-  Open(QStringLiteral("http://") + gHomeAddress);
-}
-
-void frmMain::Open(const QString& target) {
-  if (!OpenDocument(target)) m_status.note(QStringLiteral("未能打开：") + target);
-}
-
 void frmMain::Perform(QLatin1String forEmployees, QLatin1String forDepartments) {
   const int mode = GetListMode();
   if (mode == 0) return;
   const MenuEntry::Handler handler = menuEntry(mode == employeeMode ? forEmployees : forDepartments).handler;
-  if (handler) (this->*handler)();
+  if (handler) handler(*this);
 }
 
 void frmMain::mnuPop_Append_Click() {

@@ -34,6 +34,12 @@ class frmMain : public QMainWindow, public MainForm {
   void Form_Resize();
   void lsvData_MouseUp(Qt::MouseButton button, const QPoint& globalPosition);
 
+  /// The list of records that is shown, for handlers that work on its selection.
+  [[nodiscard]] RecordList& List() { return *lsvData; }
+  [[nodiscard]] MainStatus& Status() { return m_status; }
+  /// Reads the departments again; the check marks of the menus stay as they are.
+  void ShowDeptList();
+
   void RemoveSelectedDepts();
   void RemoveSelectedEmps();
   void mnuExit_Click();
@@ -41,8 +47,6 @@ class frmMain : public QMainWindow, public MainForm {
   void mnuEmpDsp_Click();
   void mnuEmpPrint_Click();
   void mnuMonthReport_Click();
-  void mnuHelpFile_Click();
-  void mnuVistHomePage_Click();
   void mnuPop_Append_Click();
   void mnuPop_Remove_Click();
   void mnuPop_Edit_Click();
@@ -64,7 +68,6 @@ class frmMain : public QMainWindow, public MainForm {
   void Report(const QString& failure);
   /// What the entry of the list's mode does; nothing when no list is shown.
   void Perform(QLatin1String forEmployees, QLatin1String forDepartments);
-  void Open(const QString& target);
   void NotePrinting(int cards);
   [[nodiscard]] QAction& Menu(QLatin1String name) const;
 
@@ -78,7 +81,6 @@ class frmMain : public QMainWindow, public MainForm {
   void ShowEmpColumns();
   void AddDeptItem(const clsDept& dept);
   void AddEmpItem(const clsEmployee& employee);
-  void ShowDeptList();
   void ShowEmpList();
 
   // Before the widgets: making them already sends this window events that ask for these.

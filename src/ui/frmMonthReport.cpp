@@ -3,8 +3,6 @@
 #include <QFormLayout>
 #include <QGuiApplication>
 #include <QHBoxLayout>
-#include <QLabel>
-#include <QPushButton>
 
 #include "attendance/MonthLoader.h"
 #include "dialogs/Dialogs.h"
@@ -13,6 +11,7 @@
 #include "printing/MonthPreview.h"
 #include "runtime/Clock.h"
 #include "runtime/RuntimeError.h"
+#include "ui/Controls.h"
 
 namespace {
 
@@ -26,12 +25,6 @@ class WaitCursor {
   WaitCursor(const WaitCursor&) = delete;
   WaitCursor& operator=(const WaitCursor&) = delete;
 };
-
-template <typename Control>
-Control* named(const char* name, Control* control) {
-  control->setObjectName(QLatin1String(name));
-  return control;
-}
 
 QPushButton* makeButton(const char* name, const QString& caption) {
   auto* button = named(name, new QPushButton(caption));
@@ -97,10 +90,7 @@ QLayout* frmMonthReport::BuildButtons() {
   connect(preview, &QPushButton::clicked, this, &frmMonthReport::btnPreview_Click);
   connect(exporting, &QPushButton::clicked, this, &frmMonthReport::btnExport_Click);
   connect(closing, &QPushButton::clicked, this, &QDialog::reject);
-  auto* row = new QHBoxLayout;
-  row->addStretch();
-  for (QPushButton* button : {preview, exporting, closing}) row->addWidget(button);
-  return row;
+  return makeButtonRow({preview, exporting, closing});
 }
 
 AttendanceMonth frmMonthReport::Month() const {
