@@ -1,5 +1,8 @@
 #include "ui/ItemKey.h"
 
+#include "runtime/Conversions.h"
+#include "runtime/RuntimeError.h"
+
 namespace {
 constexpr QLatin1String prefix{"KEYPRE"};
 }
@@ -10,4 +13,13 @@ QString MakeItemKey(const QString& identifier) {
 
 QString ItemIdentifier(const QString& key) {
   return key.mid(prefix.size());
+}
+
+std::int16_t DeptNumber(const QString& identifier) {
+  try {
+    return runtime::toInt16(identifier);
+  } catch (const runtime::RuntimeError& error) {
+    throw runtime::RuntimeError(
+        error.number(), QStringLiteral("部门号[") + identifier + QStringLiteral("]：") + error.description());
+  }
 }

@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include "ui/DeptDialogs.h"
 #include "ui/HelpMenu.h"
 #include "ui/frmMain.h"
 
@@ -31,9 +32,9 @@ constexpr std::array tree = {
     MenuEntry{L1(), L1("menDeptMange"), u"部门(&D)"},
     MenuEntry{L1("menDeptMange"), L1("mnuDeptDsp"), u"显示列表(&D)", method<&frmMain::mnuDeptDsp_Click>},
     MenuEntry{L1("menDeptMange"), L1("mnuSplit2"), separatorCaption},
-    MenuEntry{L1("menDeptMange"), L1("mnuDeptAppend"), u"追加(&A)"},
+    MenuEntry{L1("menDeptMange"), L1("mnuDeptAppend"), u"追加(&A)", mnuDeptAppend_Click},
     MenuEntry{L1("menDeptMange"), L1("mnuDeptRemove"), u"删除(&R)", method<&frmMain::RemoveSelectedDepts>},
-    MenuEntry{L1("menDeptMange"), L1("mnuDeptEdit"), u"修改(&E)"},
+    MenuEntry{L1("menDeptMange"), L1("mnuDeptEdit"), u"修改(&E)", mnuDeptEdit_Click},
     MenuEntry{L1("menDeptMange"), L1("mnuSplit3"), separatorCaption},
     MenuEntry{L1("menDeptMange"), L1("mnuDeptExport"), u"导出(&O)"},
 

@@ -2,8 +2,6 @@
 
 #include "dialogs/Dialogs.h"
 #include "records/clsEmployee.h"
-#include "runtime/Conversions.h"
-#include "runtime/RuntimeError.h"
 #include "ui/ItemKey.h"
 
 namespace {
@@ -23,15 +21,6 @@ QString named(const clsDept& dept) {
          QStringLiteral("]的部门");
 }
 
-std::int16_t deptNumber(const QString& identifier) {
-  try {
-    return runtime::toInt16(identifier);
-  } catch (const runtime::RuntimeError& error) {
-    throw runtime::RuntimeError(
-        error.number(), QStringLiteral("部门号[") + identifier + QStringLiteral("]：") + error.description());
-  }
-}
-
 }  // namespace
 
 void RecordRemoval::RemoveSelectedDepts() {
@@ -41,7 +30,7 @@ void RecordRemoval::RemoveSelectedDepts() {
 void RecordRemoval::removeDept(int row) {
   const QString identifier = ItemIdentifier(m_list.key(row));
   clsDept dept;
-  dept.setID(deptNumber(identifier));
+  dept.setID(DeptNumber(identifier));
   // A department that could not be loaded was not counted either: its count says nothing.
   if (dept.EMPLOYEENUM() < 0 || !dept.lastFailure().isEmpty()) {
     refuse(QStringLiteral("数据库操作错误！"), QStringLiteral("错误"));
