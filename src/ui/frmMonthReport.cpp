@@ -1,12 +1,12 @@
 #include "ui/frmMonthReport.h"
 
 #include <QFormLayout>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 
 #include "attendance/MonthLoader.h"
 #include "dialogs/Dialogs.h"
 #include "exchange/MonthWorkbook.h"
+#include "graphics/WaitCursor.h"
 #include "preview/DocumentOutput.h"
 #include "printing/MonthPreview.h"
 #include "runtime/Clock.h"
@@ -17,14 +17,6 @@ namespace {
 
 const QLatin1String workbookEnding(".xlsx");
 constexpr int longestUnit = 100;
-
-class WaitCursor {
- public:
-  WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-  ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
-  WaitCursor(const WaitCursor&) = delete;
-  WaitCursor& operator=(const WaitCursor&) = delete;
-};
 
 QPushButton* makeButton(const char* name, const QString& caption) {
   auto* button = named(name, new QPushButton(caption));
@@ -132,7 +124,7 @@ void frmMonthReport::btnPreview_Click() {
   Try([this] {
     EmployeeMonthReport report;
     {
-      const WaitCursor wait;
+      const graphics::WaitCursor wait;
       report.setMonth(Month(), Unit(), loadMonth(Month()));
     }
     showMonthPreview(report);
@@ -158,7 +150,7 @@ void frmMonthReport::Export(const QString& path) const {
     return;
   }
   {
-    const WaitCursor wait;
+    const graphics::WaitCursor wait;
     writeMonthWorkbook(loadMonthData(Month(), Unit()), path);
   }
   dialogs::MsgBox(QStringLiteral("已导出%1的考勤：\n").arg(Month().text()) + path, dialogs::Information,

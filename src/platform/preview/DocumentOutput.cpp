@@ -2,25 +2,17 @@
 
 #include <tuple>
 
-#include <QGuiApplication>
 #include <QProgressDialog>
 #include <QRegularExpression>
 
 #include "dialogs/Dialogs.h"
+#include "graphics/WaitCursor.h"
 #include "report/Pdf.h"
 #include "runtime/RuntimeError.h"
 
 namespace preview {
 
 namespace {
-
-class WaitCursor {
- public:
-  WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-  ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
-  WaitCursor(const WaitCursor&) = delete;
-  WaitCursor& operator=(const WaitCursor&) = delete;
-};
 
 void tellFailure(const runtime::RuntimeError& error) {
   dialogs::MsgBox(error.description(), dialogs::Exclamation, QStringLiteral("错误"));
@@ -77,7 +69,7 @@ void DocumentOutput::print(int currentPage) {
 void DocumentOutput::runJob(QPrinter& printer, const std::vector<int>& pages) {
   const int sheets = static_cast<int>(pages.size());
   if (sheets <= quietSheets) {
-    const WaitCursor wait;
+    const graphics::WaitCursor wait;
     std::ignore = printPages(printer, m_document, pages, [](int, int) { return true; });
     return;
   }
@@ -104,7 +96,7 @@ void DocumentOutput::saveAsPdf() {
   const QStringList chosen = dialogs::chooseFile(box);
   if (chosen.isEmpty()) return;
   try {
-    const WaitCursor wait;
+    const graphics::WaitCursor wait;
     report::writePdf(m_document, chosen.first());
   } catch (const runtime::RuntimeError& error) {
     return tellFailure(error);
