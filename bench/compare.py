@@ -81,6 +81,30 @@ def measure_cards(home, directory, runs):
         f"{median(floor, 'memory'):.0f} MB, {drawn.stat().st_size / megabyte:.1f} MB", "")
 
 
+def measure_month(directory, runs):
+    """All employees present on all 31 days: 62 texts each."""
+    homes = {}
+    for people in (1000, 5000):
+        home = demo(directory, f"month{people}", "--employees", str(people), "--photo-kb", "2", "--month", "2026-10")
+        subprocess.run([BIN / "bench_month_home", home, "2026-10"], check=True)
+        homes[people] = home
+
+    def print_month(people, name):
+        return [BIN / "attendancectl", "--home", homes[people], "month", "2026-10", "--out", directory / name]
+
+    ours, floor = compare(print_month(1000, "month.pdf"),
+                          [BIN / "bench_month_report_floor", "1000", directory / "floor.pdf"], runs)
+    ratio_row("`attendancectl month` to PDF, 1,000 employees, 31 days, whole process / 62,000 cached glyph runs",
+              ours, floor, "2")
+    row("its memory", f"{median(ours, 'memory'):.0f} MB", "80 MB")
+    ours, floor = compare(print_month(5000, "month5.pdf"), print_month(1000, "month.pdf"), runs)
+    ratio_row("the same, 5,000 employees / 1,000", ours, floor, "6")
+    ours, floor = compare(print_month(1000, "month.xlsx"),
+                          [BIN / "bench_month_workbook_floor", "1000", directory / "floor.xlsx"], runs)
+    ratio_row("`attendancectl month` to .xlsx, 1,000 employees, 31 days, whole process / the library's own calls",
+              ours, floor, "3")
+
+
 def main():
     runs = int(sys.argv[1]) if len(sys.argv) > 1 else 7
     os.environ.setdefault("QT_QPA_PLATFORM", "offscreen")
@@ -101,6 +125,7 @@ def main():
         ours, floor = compare([BIN / "bench_first_preview_page", cards, "1000"],
                               [BIN / "bench_first_preview_page", cards, "4"], runs)
         ratio_row("first page of the preview, 1,000 cards / 4 cards", ours, floor, "2")
+        measure_month(directory, runs)
 
 
 if __name__ == "__main__":

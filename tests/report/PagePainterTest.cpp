@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QBuffer>
+
 #include "../graphics/PictureBytes.h"
 #include "SmallReport.h"
 #include "graphics/Twips.h"
@@ -67,6 +69,45 @@ TEST(PagePainter, TextsStandInTheirBoxesByAlignment) {
   EXPECT_NEAR(middle.center().y(), 70, 3);
   EXPECT_GT(right.right(), 195);
   EXPECT_GT(right.center().y(), middle.center().y() + 5);
+}
+
+TEST(PagePainter, TextsOfManyFontsAndColoursAreAllDrawn) {
+  std::vector<report::Control> labels;
+  for (int i = 0; i < 4; ++i) {
+    auto control = SmallReport::label(QStringLiteral("lbl"), {500 * i, 500, 500, 400}, QStringLiteral("国A"));
+    control.Font.size = 8 + i;
+    control.ForeColor = i == 3 ? 0x0000FF : 0;
+    labels.push_back(control);
+  }
+  const QImage image = paint(labels);
+  for (int i = 0; i < 4; ++i) {
+    const QRect ink = inked(image.copy(50 * i, 0, 50, 200));
+    EXPECT_GT(ink.height(), 10) << i;
+    EXPECT_GE(ink.top(), 50) << i;
+    EXPECT_LE(ink.bottom(), 90) << i;
+  }
+  int red = 0;
+  for (int x = 150; x < 200; ++x) {
+    for (int y = 50; y < 90; ++y)
+      red += image.pixelColor(x, y).red() > 200 && image.pixelColor(x, y).blue() < 60;
+  }
+  EXPECT_GT(red, 20);
+}
+
+TEST(PagePainter, APictureCoversWhatStoodBeforeIt) {
+  const auto text =
+      SmallReport::label(QStringLiteral("lbl"), {1000, 500, 1000, 400}, QStringLiteral("国国国"));
+  auto frame = textControl(Qt::AlignCenter);
+  frame.Border = true;
+  auto white = picture("png", {100, 40}, {900, 400, 1200, 600});
+  QImage blank(120, 60, QImage::Format_RGB32);
+  blank.fill(Qt::white);
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  blank.save(&buffer, "PNG");
+  white.Picture = std::make_shared<const graphics::Picture>(bytes, QStringLiteral("x"));
+  EXPECT_TRUE(inked(paint({text, frame, white})).isEmpty());
+  EXPECT_FALSE(inked(paint({white, text, frame})).isEmpty());
 }
 
 TEST(PagePainter, WhatCannotBeDecodedIsAnEmptyFrame) {

@@ -1,8 +1,8 @@
 #include "report/PagePainter.h"
 
-#include <QFontMetricsF>
-
 #include "graphics/StoredColor.h"
+#include "report/FrameLines.h"
+#include "report/GlyphBatch.h"
 
 namespace report {
 namespace {
@@ -16,17 +16,19 @@ class PrimitivePainter {
       : m_painter(painter), m_pictures(pictures), m_scale(deviceScale(painter)) {}
 
   void operator()(const TextPrimitive& text) {
-    const QFont font = graphics::twipFont(text.font);
-    m_painter.setFont(font);
-    m_painter.setPen(graphics::fromStoredColor(text.color));
-    m_painter.drawText(startOf(text, QFontMetricsF(font)), text.text);
+    const ShapedText shaped = shapeText(text.text, text.font);
+    m_texts.add(shaped, startOf(text, shaped), graphics::fromStoredColor(text.color));
   }
 
-  void operator()(const BoxPrimitive& shape) { drawFrame(shape.box, shape.penWidth); }
+  /// A line never becomes thinner than a pixel, or it would fade away on the screen.
+  void operator()(const BoxPrimitive& shape) {
+    m_frames.add(shape.box, std::max(shape.penWidth, 1 / m_scale));
+  }
 
   void operator()(const PicturePrimitive& shape) {
     const QImage image = shape.picture ? m_pictures.image(shape.picture, pixels(shape.box)) : QImage();
-    if (image.isNull()) return drawFrame(shape.box, emptyFrameWidth);
+    if (image.isNull()) return (*this)(BoxPrimitive{shape.box, emptyFrameWidth});
+    drawWaiting();
     m_painter.drawImage(shape.box, image);
   }
 
@@ -34,6 +36,15 @@ class PrimitivePainter {
     m_painter.setPen(Qt::NoPen);
     m_painter.setBrush(Qt::black);
     m_painter.drawRects(shape.bars.data(), static_cast<int>(shape.bars.size()));
+  }
+
+  /// Draws the frames and texts that were put off. Only pictures cover what stood before them.
+  void drawWaiting() {
+    for (const auto& [width, lines] : m_frames.take()) {
+      m_painter.setPen(QPen(Qt::black, width, Qt::SolidLine, Qt::FlatCap));
+      m_painter.drawLines(lines.data(), static_cast<int>(lines.size()));
+    }
+    m_texts.draw(m_painter);
   }
 
  private:
@@ -44,34 +55,25 @@ class PrimitivePainter {
 
   [[nodiscard]] QSize pixels(const QRectF& box) const { return (box.size() * m_scale).toSize(); }
 
-  /// Where the text's base line starts. Drawing from a point spares the layout of a paragraph.
-  static QPointF startOf(const TextPrimitive& text, const QFontMetricsF& metrics) {
+  /// Where the text's base line starts.
+  static QPointF startOf(const TextPrimitive& text, const ShapedText& shaped) {
     const QRectF& box = text.box;
     double x = box.left();
-    if (!(text.alignment & Qt::AlignLeft)) {
-      const double spare = box.width() - metrics.horizontalAdvance(text.text);
-      if (text.alignment & Qt::AlignHCenter) x += spare / 2;
-      if (text.alignment & Qt::AlignRight) x += spare;
-    }
-    double y = box.top() + metrics.ascent();
-    const double below = box.height() - metrics.ascent() - metrics.descent();
+    const double spare = box.width() - shaped.width;
+    if (text.alignment & Qt::AlignHCenter) x += spare / 2;
+    if (text.alignment & Qt::AlignRight) x += spare;
+    double y = box.top() + shaped.ascent;
+    const double below = box.height() - shaped.ascent - shaped.descent;
     if (text.alignment & Qt::AlignVCenter) y += below / 2;
     if (text.alignment & Qt::AlignBottom) y += below;
     return {x, y};
   }
 
-  /// A line never becomes thinner than a pixel, or it would fade away on the screen.
-  void drawFrame(const QRectF& box, double width) {
-    QPen pen(Qt::black, std::max(width, 1 / m_scale));
-    pen.setJoinStyle(Qt::MiterJoin);
-    m_painter.setPen(pen);
-    m_painter.setBrush(Qt::NoBrush);
-    m_painter.drawRect(box);
-  }
-
   QPainter& m_painter;
   PictureSource& m_pictures;
   double m_scale;
+  FrameLines m_frames;
+  GlyphBatch m_texts;
 };
 
 }  // namespace
@@ -85,6 +87,7 @@ void paintPage(QPainter& painter, const Document& document, int index, PictureSo
   for (const Primitive& primitive : primitives) {
     std::visit(paint, primitive.shape);
   }
+  paint.drawWaiting();
   painter.restore();
 }
 

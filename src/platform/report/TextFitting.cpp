@@ -6,6 +6,7 @@
 #include <QFontMetricsF>
 
 #include "graphics/Twips.h"
+#include "report/ShapedText.h"
 
 namespace report {
 namespace {
@@ -21,7 +22,7 @@ QString onOneLine(QString text) {
 }
 
 double widthOf(const QString& text, const graphics::FontDescription& font) {
-  return QFontMetricsF(graphics::twipFont(font)).horizontalAdvance(text);
+  return shapeText(text, font).width;
 }
 
 /// Characters that no face draws wider than its size.
