@@ -108,6 +108,7 @@ void designDetail(Section& detail) {
   detail.Height = bandHeight;
   detail.Controls = {
       makeCell(QStringLiteral("lblName"), {0, 0, nameWidth, bandHeight}, QStringLiteral("姓名"), namePoints)};
+  detail.Controls.front().Wrap = true;
   for (int day = 1; day <= 31; ++day) {
     const int top = isUpper(day) ? 0 : halfBand;
     detail.Controls.push_back(makeCell(QStringLiteral("lblEnter%1").arg(day), dayBox(day, top, upperHeight)));

@@ -27,6 +27,19 @@ double widthOf(const TextPrimitive& text) {
   return QFontMetricsF(graphics::twipFont(text.font)).horizontalAdvance(text.text);
 }
 
+/// The lines of a label that wraps, 1134 twips wide and high.
+std::vector<TextPrimitive> wrappedLines(const QString& caption) {
+  SmallReport small;
+  small.bandCount = 1;
+  small.Detail.Height = 1500;
+  small.Detail.Controls = {SmallReport::label(QStringLiteral("lblText"), {100, 200, 1134, 1134}, caption)};
+  small.Detail.Controls[0].Wrap = true;
+  small.fill = [](SmallReport&, int) {};
+  std::vector<TextPrimitive> lines;
+  for (const auto& [name, line] : shapesOf<TextPrimitive>(small.run(), 0)) lines.push_back(line);
+  return lines;
+}
+
 std::vector<report::Primitive> primitivesOf(const report::Control& control) {
   SmallReport small;
   small.bandCount = 1;
@@ -49,6 +62,29 @@ report::Control imageControl(const graphics::PicturePointer& picture) {
 }
 
 }  // namespace
+
+TEST(Text, GoesOnOverSeveralLinesWhereItMay) {
+  const QRectF box(600, 900, 1134, 1134);
+  struct Case {
+    QString text;
+    std::size_t leastLines;
+  };
+  for (const Case& wrapped : {Case{QStringLiteral("张三"), 1}, Case{QStringLiteral("欧阳上官司马诸葛"), 2},
+                              Case{QString(30, u'长'), 4}, Case{QStringLiteral("😀").repeated(20), 3}}) {
+    QString whole;
+    const auto lines = wrappedLines(wrapped.text);
+    for (const TextPrimitive& line : lines) {
+      whole += line.text;
+      EXPECT_TRUE(box.contains(line.box));
+      EXPECT_LE(widthOf(line), box.width());
+      EXPECT_GE(line.font.size, 6);
+    }
+    EXPECT_EQ(whole, wrapped.text);
+    EXPECT_GE(lines.size(), wrapped.leastLines);
+    EXPECT_LE(lines.size(), 2 * wrapped.leastLines);
+  }
+  EXPECT_TRUE(wrappedLines(QString(300, u'长')).back().text.endsWith(u'…')) << "what is too much is told";
+}
 
 TEST(Text, IsShrunkByHalfPointsOnlyAsFarAsNeeded) {
   const TextPrimitive text = textFor(QStringLiteral("信息技术组"), 14);

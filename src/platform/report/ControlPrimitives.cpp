@@ -30,8 +30,24 @@ void appendText(std::vector<Primitive>& primitives, const Control& control, cons
                        control.Alignment});
 }
 
+/// The lines stand close together in the middle of the box.
+void appendLines(std::vector<Primitive>& primitives, const Control& control, const QRectF& box) {
+  if (control.Caption.isEmpty() || box.isEmpty()) return;
+  const std::vector<FittedText> lines = wrapText(control.Caption, control.Font, box.size());
+  if (lines.size() == 1) return appendText(primitives, control, box);
+  const double height = lineHeight(lines.front().font);
+  QRectF line(box.left(), box.center().y() - height * static_cast<double>(lines.size()) / 2, box.width(),
+              height);
+  for (const FittedText& text : lines) {
+    append(primitives, control,
+           TextPrimitive{line, text.text, text.font, control.ForeColor, control.Alignment});
+    line.translate(0, height);
+  }
+}
+
 void appendLabel(std::vector<Primitive>& primitives, const Control& control, const QRectF& box) {
   if (control.Border) append(primitives, control, BoxPrimitive{box, hairline});
+  if (control.Wrap) return appendLines(primitives, control, box);
   appendText(primitives, control, box);
 }
 

@@ -29,6 +29,8 @@ struct Control {
   Qt::Alignment Alignment = Qt::AlignLeft | Qt::AlignVCenter;
   /// Whether a label is drawn with a hairline around it.
   bool Border = false;
+  /// Whether a label's text goes on over several lines where one is not enough.
+  bool Wrap = false;
   graphics::PicturePointer Picture;
 
   [[nodiscard]] QRect rect() const { return {Left, Top, Width, Height}; }

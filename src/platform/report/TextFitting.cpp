@@ -4,6 +4,8 @@
 #include <cmath>
 
 #include <QFontMetricsF>
+#include <QStringList>
+#include <QTextBoundaryFinder>
 
 #include "graphics/Twips.h"
 #include "report/ShapedText.h"
@@ -13,6 +15,7 @@ namespace {
 
 constexpr double smallestSize = 6;
 constexpr double step = 0.5;
+constexpr double lineSpacing = 1.2;
 
 QString onOneLine(QString text) {
   for (QChar& character : text) {
@@ -44,6 +47,25 @@ double steppedDown(double from, double limit) {
   return std::max(from - steps * step, std::min(smallestSize, from));
 }
 
+/// `text` cut into lines that are no wider than `width`.
+QStringList linesOf(const QString& text, const graphics::FontDescription& font, double width) {
+  const QFontMetricsF metrics(graphics::twipFont(font));
+  QStringList lines(QString{});
+  double used = 0;
+  QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+  for (qsizetype from = 0, to = finder.toNextBoundary(); to > from; from = to, to = finder.toNextBoundary()) {
+    const QString character = text.mid(from, to - from);
+    const double advance = metrics.horizontalAdvance(character);
+    if (used + advance > width && used > 0) {
+      lines.append(QString());
+      used = 0;
+    }
+    lines.last() += character;
+    used += advance;
+  }
+  return lines;
+}
+
 }  // namespace
 
 FittedText fitText(const QString& text, const graphics::FontDescription& font, QSizeF box) {
@@ -60,6 +82,31 @@ FittedText fitText(const QString& text, const graphics::FontDescription& font, Q
   if (width > box.width()) {
     const QFontMetricsF metrics(graphics::twipFont(fitted.font));
     fitted.text = metrics.elidedText(fitted.text, Qt::ElideRight, box.width());
+  }
+  return fitted;
+}
+
+double lineHeight(const graphics::FontDescription& font) {
+  return font.size * graphics::twipsPerPoint * lineSpacing;
+}
+
+std::vector<FittedText> wrapText(const QString& text, const graphics::FontDescription& font, QSizeF box) {
+  FittedText whole = fitText(text, font, box);
+  if (whole.font.size == graphics::drawableSize(font.size) && whole.text == onOneLine(text)) {
+    return {std::move(whole)};
+  }
+  graphics::FontDescription smaller = font;
+  smaller.size = graphics::drawableSize(font.size);
+  QStringList lines = linesOf(onOneLine(text), smaller, box.width());
+  const auto room = [&] { return std::max(1, static_cast<int>(box.height() / lineHeight(smaller))); };
+  while (lines.size() > room() && smaller.size > smallestSize) {
+    smaller.size = std::max(smaller.size - step, smallestSize);
+    lines = linesOf(onOneLine(text), smaller, box.width());
+  }
+  std::vector<FittedText> fitted;
+  for (qsizetype i = 0; i < std::min<qsizetype>(lines.size(), room()); ++i) {
+    const bool cut = i + 1 == room();
+    fitted.push_back(fitText(cut ? QStringList(lines.mid(i)).join(QString()) : lines[i], smaller, box));
   }
   return fitted;
 }
