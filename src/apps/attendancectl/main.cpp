@@ -19,8 +19,8 @@ void useUtf8() {
   if (qstrcmp(nl_langinfo(CODESET), "UTF-8") != 0) qputenv("LC_ALL", "C.UTF-8");
 }
 
-/// Without it every moment that is made asks the system for the state of the zone's file, which takes a third of
-/// the time in which a month is loaded.
+/// Without it the system looks at the zone's file for every moment that is made, 62,000 times for a month of
+/// a thousand employees.
 void nameTimeZone() {
   if (qEnvironmentVariableIsEmpty("TZ")) qputenv("TZ", ":/etc/localtime");
 }
