@@ -4,6 +4,9 @@
 #include <QFileInfo>
 #include <QProcess>
 
+#include "shell/DesktopHelpViewer.h"
+#include "shell/HelpDocument.h"
+
 namespace shell {
 
 QUrl targetUrl(const QString& target) {
@@ -12,7 +15,8 @@ QUrl targetUrl(const QString& target) {
 }
 
 bool DesktopShell::open(const QString& target) {
-  const QUrl url = targetUrl(target);
+  QUrl url = targetUrl(target);
+  if (url.isLocalFile()) url = QUrl::fromLocalFile(readableHelp(url.toLocalFile(), desktopHasHelpViewer));
   // The desktop's opener starts before it notices that the file is missing, and would report success.
   if (url.isLocalFile() && !QFileInfo::exists(url.toLocalFile())) return false;
   return QDesktopServices::openUrl(url);

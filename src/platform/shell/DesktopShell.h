@@ -9,7 +9,7 @@ namespace shell {
 /// The registry of a machine on which the programs are installed.
 inline const QString machineRegistry = QStringLiteral("/etc/attendance/machine.ini");
 
-/// Asks the desktop.
+/// Asks the desktop. Where it has no program for compiled help, the same pages are opened as HTML.
 class DesktopShell : public Host {
  public:
   explicit DesktopShell(const QString& registryFile = machineRegistry) : m_registryFile(registryFile) {}
