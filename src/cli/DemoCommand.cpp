@@ -116,12 +116,14 @@ int DemoCommand::run(const Streams& streams) {
   const int records = insertPresence(*connection, people, presenceDays);
   connection->CommitTrans();
 
+  const QString missingHelp = home.putHelp();
   home.keep();
   streams.out << QStringLiteral("已建立：%1（部门 %2 个，员工 %3 名，考勤记录 %4 条）\n")
                      .arg(runtime::AppPath())
                      .arg(demoDepartments().size())
                      .arg(m_employees)
                      .arg(records);
+  if (!missingHelp.isEmpty()) streams.err << missingHelp << '\n';
   return Done;
 }
 

@@ -6,6 +6,7 @@
 
 #include "ado/Connection.h"
 #include "foundation/GlobalDefine.h"
+#include "foundation/HelpFiles.h"
 #include "foundation/Schema.h"
 #include "foundation/clsConfiguration.h"
 #include "foundation/clsDbConn.h"
@@ -75,7 +76,7 @@ void NewHome::make() {
   refuseExisting(databasePath(m_directory));
   refuseExisting(settingsFile());
   refuseReadOnly();
-  makeDirectory();
+  makeDirectory(m_directory);
   makeSettings();
   makeDatabase();
 }
@@ -91,9 +92,22 @@ void NewHome::refuseReadOnly() const {
   }
 }
 
-void NewHome::makeDirectory() {
+QString NewHome::putHelp() {
+  const HelpFiles help;
+  const QDir home(m_directory);
+  if (help.hasPages()) makeDirectory(home.filePath(QStringLiteral("help")));
+  for (const QString& name : help.names()) {
+    const QString path = home.filePath(name);
+    if (exists(path)) continue;
+    m_madeFiles.append(path);
+    help.copy(name, m_directory);
+  }
+  return help.missing();
+}
+
+void NewHome::makeDirectory(const QString& directory) {
   QStringList missing;
-  for (QString path = m_directory; !QFileInfo::exists(path); path = QFileInfo(path).path()) {
+  for (QString path = directory; !QFileInfo::exists(path); path = QFileInfo(path).path()) {
     missing.append(path);
   }
   for (auto path = missing.crbegin(); path != missing.crend(); ++path) {

@@ -18,11 +18,14 @@ class NewHome {
   /// Makes the directory where it is missing, attendance.ini and vorlent.dat; neither file may be there yet.
   /// Afterwards the shared connection stands open on the new database. Throws runtime::RuntimeError.
   void make();
+  /// Puts the programs' help in, and leaves alone what bears its names already. Gives one line that tells
+  /// what of it could not be found, which is no error; empty when all is there. Throws runtime::RuntimeError.
+  [[nodiscard]] QString putHelp();
   void keep() { m_kept = true; }
 
  private:
   void refuseReadOnly() const;
-  void makeDirectory();
+  void makeDirectory(const QString& directory);
   void makeSettings();
   void makeDatabase();
 

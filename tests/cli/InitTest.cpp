@@ -4,11 +4,13 @@
 #include <QTemporaryDir>
 
 #include "cli/Running.h"
+#include "foundation/HelpFiles.h"
 #include "support/Files.h"
 
 namespace {
 
 const QString init = QStringLiteral("init");
+const QString helpFile = QStringLiteral("HELP.CHM");
 
 /// Everything below the directory, hidden files too.
 QStringList contentsOf(const QTemporaryDir& directory) {
@@ -24,8 +26,25 @@ TEST(Init, MakesAHomeThatWorks) {
   EXPECT_EQ(made.out, QStringLiteral("已建立：%1\n").arg(home));
   EXPECT_EQ(runIn(home, {QStringLiteral("list"), QStringLiteral("employees")}).out,
             QStringLiteral("编号\t姓名\t部门\t条码\t录入日期\n"));
-  EXPECT_EQ(QDir(home).entryList(QDir::Files | QDir::Hidden),
-            QStringList({QStringLiteral("attendance.ini"), QStringLiteral("vorlent.dat")}));
+  QStringList files{QStringLiteral("attendance.ini"), QStringLiteral("vorlent.dat")};
+  if (HelpFiles().names().contains(helpFile)) files.insert(1, helpFile);
+  EXPECT_EQ(QDir(home).entryList(QDir::Files | QDir::Hidden), files);
+}
+
+TEST(Init, PutsTheHelpInAndKeepsWhatBearsItsName) {
+  const QTemporaryDir home;
+  support::writeFile(home.filePath(helpFile), "kept");
+  const Outcome made = runIn(home.path(), {init});
+  ASSERT_EQ(made.code, 0) << made.err.toStdString();
+  EXPECT_EQ(support::contentOf(home.filePath(helpFile)), "kept");
+  const HelpFiles help;
+  ASSERT_TRUE(help.hasPages());
+  for (const QString& name : help.names()) {
+    if (name == helpFile) continue;
+    EXPECT_EQ(support::contentOf(home.filePath(name)),
+              support::contentOf(QStringLiteral(PROGRAM_DIR "/") + name))
+        << name.toStdString();
+  }
 }
 
 TEST(Init, NeverOverwrites) {
@@ -68,6 +87,16 @@ TEST(Init, LeavesNothingBehindWhereItCannotWrite) {
   EXPECT_TRUE(readOnly.err.contains(QStringLiteral("只读"))) << readOnly.err.toStdString();
   EXPECT_TRUE(QDir(locked).isEmpty());
   QFile::setPermissions(locked, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+
+  // The help comes last: where it cannot be written, the finished files are taken back too.
+  const QString barred = above.filePath(QStringLiteral("barred"));
+  ASSERT_TRUE(QDir().mkdir(barred));
+  support::writeFile(barred + QStringLiteral("/help"), "kept");
+  const Outcome halfway = runIn(barred, {init});
+  EXPECT_EQ(halfway.code, 1);
+  EXPECT_TRUE(halfway.err.contains(QStringLiteral("help/"))) << halfway.err.toStdString();
+  EXPECT_EQ(QDir(barred).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+            QStringList(QStringLiteral("help")));
 }
 
 }  // namespace

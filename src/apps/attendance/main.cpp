@@ -9,9 +9,11 @@
 
 #include "dialogs/QtDialogHost.h"
 #include "foundation/GlobalDefine.h"
+#include "foundation/HelpFiles.h"
 #include "foundation/mdMain.h"
 #include "graphics/Fonts.h"
 #include "runtime/ProgramDirectory.h"
+#include "runtime/RuntimeError.h"
 #include "shell/DesktopShell.h"
 #include "ui/frmMain.h"
 
@@ -73,6 +75,15 @@ std::unique_ptr<MainForm> makeMainForm(const QString& screenshot) {
   return form;
 }
 
+/// Homes made before, or by an older version, get the help of this one. Without it the program still works.
+void refreshHelp() {
+  try {
+    HelpFiles().refresh(runtime::AppPath());
+  } catch (const runtime::RuntimeError& error) {
+    std::fprintf(stderr, "帮助未能放入程序目录：%s\n", error.description().toUtf8().constData());
+  }
+}
+
 int runProgram(QApplication& application) {
   useChinese(application);
   QCommandLineParser parser;
@@ -88,7 +99,10 @@ int runProgram(QApplication& application) {
   if (screenshot.isEmpty()) dialogs::installHost(&boxes);
   shell::installHost(&desktop);
 
-  const bool started = Main([&screenshot] { return makeMainForm(screenshot); });
+  const bool started = Main([&screenshot] {
+    refreshHelp();
+    return makeMainForm(screenshot);
+  });
   const int result = started ? QApplication::exec() : 1;
   gMainForm.reset();
   gConnection.reset();
