@@ -10,7 +10,7 @@ bin=build/release/bin
 home=$PWD/demo-home
 
 if [[ ! -f build/release/build.ninja ]]; then cmake --preset release >/dev/null; fi
-cmake --build --preset release --target attendance attendancectl
+cmake --build --preset release --target attendance attendancectl attendance-station
 
 # The mark tells a finished home from one that an interrupted run left behind.
 if [[ ! -f $home/.made ]]; then
@@ -18,6 +18,9 @@ if [[ ! -f $home/.made ]]; then
   "$bin/attendancectl" --home "$home" demo
   touch "$home/.made"
 fi
+mkdir -p "$home/station"
+cp -n "$home/attendance.ini" "$home/station/"
+echo "The window that scans cards: $bin/attendance-station --home $home/station"
 
 if [[ -n ${DISPLAY:-}${WAYLAND_DISPLAY:-} ]]; then
   exec "$bin/attendance" --home "$home" "$@"

@@ -22,4 +22,8 @@ class AdoError : public runtime::RuntimeError {
       : RuntimeError(static_cast<int>(number), description) {}
 };
 
+/// Whether `description`, that of an AdoError, says that another program held the file until the wait for it
+/// was over: the same may well succeed a moment later.
+[[nodiscard]] bool tellsOfBusyFile(const QString& description);
+
 }  // namespace ado

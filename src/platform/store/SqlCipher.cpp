@@ -10,7 +10,7 @@ QString meaning(int code) {
   switch (code) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
-      return QStringLiteral("数据库正被其他程序占用");
+      return busyWords();
     case SQLITE_READONLY:
       return QStringLiteral("数据库是只读的");
     case SQLITE_FULL:
@@ -29,6 +29,10 @@ QString meaning(int code) {
 }
 
 }  // namespace
+
+QString busyWords() {
+  return QStringLiteral("数据库正被其他程序占用");
+}
 
 void throwEngineError(int code, const QString& words) {
   const int primary = code & 0xFF;

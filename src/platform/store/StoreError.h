@@ -11,6 +11,9 @@ class StoreError : public runtime::RuntimeError {
   using RuntimeError::RuntimeError;
 };
 
+/// The words in every description of a file that another program held until the wait for it was over.
+[[nodiscard]] QString busyWords();
+
 /// Result codes that callers tell apart; they are the engine's.
 enum class StoreCode {
   Failed = 1,
