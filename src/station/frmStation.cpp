@@ -8,6 +8,7 @@
 
 #include "dialogs/Dialogs.h"
 #include "foundation/clsSchoolArea.h"
+#include "graphics/ApplicationIcon.h"
 #include "runtime/Clock.h"
 #include "sound/Sound.h"
 #include "station/ResultLook.h"
@@ -84,6 +85,7 @@ frmStation::frmStation(StationController controller)
 
 void frmStation::BuildWindow() {
   setWindowTitle(QStringLiteral("签到"));
+  setWindowIcon(graphics::applicationIcon());
   setAttribute(Qt::WA_InputMethodEnabled, false);
   setFocusPolicy(Qt::StrongFocus);
   fillWith(*this, ground);

@@ -7,8 +7,8 @@
 #include <QMouseEvent>
 #include <QVersionNumber>
 
+#include "graphics/ApplicationIcon.h"
 #include "graphics/StoredColor.h"
-#include "ui/ApplicationIcon.h"
 #include "ui/Controls.h"
 #include "ui/ProgramTitle.h"
 #include "ui/SystemInfo.h"
@@ -105,7 +105,7 @@ void frmAbout::BuildWindow() {
 
 QLayout* frmAbout::BuildHead() {
   auto* icon = makeText("imgIcon");
-  icon->setPixmap(applicationIcon().pixmap(iconSize, iconSize));
+  icon->setPixmap(graphics::applicationIcon().pixmap(iconSize, iconSize));
   auto* head = new QGridLayout;
   head->setHorizontalSpacing(gap);
   head->addWidget(icon, 0, 0, 3, 1, Qt::AlignTop);

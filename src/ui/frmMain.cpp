@@ -11,10 +11,10 @@
 #include <QStatusBar>
 
 #include "dialogs/Dialogs.h"
+#include "graphics/ApplicationIcon.h"
 #include "graphics/Twips.h"
 #include "records/clsDeptSet.h"
 #include "runtime/RuntimeError.h"
-#include "ui/ApplicationIcon.h"
 #include "ui/ItemKey.h"
 #include "ui/LoadProgress.h"
 #include "ui/ProgramTitle.h"
@@ -59,7 +59,7 @@ frmMain::frmMain() : lsvData(new RecordList), m_status(*statusBar()), m_cards(*l
 void frmMain::BuildWindow() {
   setObjectName(QStringLiteral("frmMain"));
   setWindowTitle(programTitle);
-  setWindowIcon(applicationIcon());
+  setWindowIcon(graphics::applicationIcon());
   buildMainMenu(*this, [this](const MenuEntry& entry) {
     if (entry.handler) Run(entry.handler);
   });

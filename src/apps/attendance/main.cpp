@@ -1,17 +1,11 @@
-#include <algorithm>
 #include <cstdio>
 #include <memory>
 
-#include <QApplication>
-#include <QCommandLineParser>
-#include <QLibraryInfo>
-#include <QTranslator>
-
+#include "apps/windowed/WindowedProgram.h"
 #include "dialogs/QtDialogHost.h"
 #include "foundation/GlobalDefine.h"
 #include "foundation/HelpFiles.h"
 #include "foundation/mdMain.h"
-#include "graphics/Fonts.h"
 #include "runtime/ProgramDirectory.h"
 #include "runtime/RuntimeError.h"
 #include "shell/DesktopShell.h"
@@ -19,42 +13,16 @@
 
 namespace {
 
-const QString homeOption = QStringLiteral("home");
 const QString screenshotOption = QStringLiteral("screenshot");
 
-void describe(QCommandLineParser& parser) {
-  parser.setApplicationDescription(QStringLiteral("签到系统：管理部门和员工，打印签到卡。"));
-  parser.addHelpOption();
-  parser.addVersionOption();
-  parser.addOption({homeOption,
-                    QStringLiteral("程序目录：attendance.ini 和照片文件所在的目录；"
-                                   "不给出时取环境变量 ATTENDANCE_HOME，再取程序所在目录。"),
-                    QStringLiteral("目录")});
-  parser.addOption(
-      {screenshotOption, QStringLiteral("列表载入后把主窗口存成 PNG 图片并退出。"), QStringLiteral("文件")});
-}
-
-/// Help and version are shown without a display.
-bool wantsTextOnly(int argc, char** argv) {
-  return std::any_of(argv + 1, argv + argc, [](const char* argument) {
-    const QByteArrayView option(argument);
-    return option == "--help" || option == "--help-all" || option == "-h" || option == "--version" ||
-           option == "-v";
-  });
-}
-
-void useChinese(QCoreApplication& application) {
-  auto* translator = new QTranslator(&application);
-  const QString directory = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
-  if (translator->load(QStringLiteral("qtbase_zh_CN"), directory)) application.installTranslator(translator);
-}
-
-void showText(int argc, char** argv) {
-  QCoreApplication application(argc, argv);
-  useChinese(application);
-  QCommandLineParser parser;
-  describe(parser);
-  parser.process(application);
+WindowedProgram program() {
+  return {.name = QStringLiteral("attendance"),
+          .version = QStringLiteral(ATTENDANCE_VERSION),
+          .description = QStringLiteral("签到系统：管理部门和员工，打印签到卡。"),
+          .homeHelp = QStringLiteral("程序目录：attendance.ini 和照片文件所在的目录；"
+                                     "不给出时取环境变量 ATTENDANCE_HOME，再取程序所在目录。"),
+          .options = {{screenshotOption, QStringLiteral("列表载入后把主窗口存成 PNG 图片并退出。"),
+                       QStringLiteral("文件")}}};
 }
 
 void saveScreenshot(frmMain& form, const QString& fileName) {
@@ -84,14 +52,7 @@ void refreshHelp() {
   }
 }
 
-int runProgram(QApplication& application) {
-  useChinese(application);
-  QCommandLineParser parser;
-  describe(parser);
-  parser.process(application);
-  runtime::chooseAppPath(parser.value(homeOption));
-  QApplication::setFont(graphics::userInterfaceFont());
-
+int run(const QCommandLineParser& parser) {
   dialogs::QtDialogHost boxes;
   shell::DesktopShell desktop;
   const QString screenshot = parser.value(screenshotOption);
@@ -114,10 +75,5 @@ int runProgram(QApplication& application) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  QCoreApplication::setApplicationName(QStringLiteral("attendance"));
-  QCoreApplication::setApplicationVersion(QStringLiteral(ATTENDANCE_VERSION));
-  QGuiApplication::setDesktopFileName(QStringLiteral("attendance"));
-  if (wantsTextOnly(argc, argv)) showText(argc, argv);
-  QApplication application(argc, argv);
-  return runProgram(application);
+  return runWindowed(argc, argv, program(), run);
 }

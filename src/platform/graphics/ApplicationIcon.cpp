@@ -1,7 +1,8 @@
-#include "ui/ApplicationIcon.h"
+#include "graphics/ApplicationIcon.h"
 
 #include <QPainter>
 
+namespace graphics {
 namespace {
 
 void drawPortrait(QPainter& painter) {
@@ -43,3 +44,5 @@ QIcon applicationIcon() {
   for (const int size : {16, 32, 48}) icon.addPixmap(drawn(size));
   return icon;
 }
+
+}  // namespace graphics
