@@ -4,7 +4,7 @@
 #include <thread>
 #include <tuple>
 
-#include "ado/Connection.h"
+#include "ado/Transaction.h"
 #include "attendance/clsPresence.h"
 #include "foundation/Attempt.h"
 #include "foundation/GlobalDefine.h"
@@ -52,34 +52,7 @@ std::shared_ptr<ado::Connection> connectionToFile() {
   return connection;
 }
 
-/// A transaction that is rolled back unless it is committed.
-class Transaction {
- public:
-  explicit Transaction(ado::Connection& connection) : m_connection(connection) { m_connection.BeginTrans(); }
-  Transaction(const Transaction&) = delete;
-  Transaction& operator=(const Transaction&) = delete;
-  ~Transaction() {
-    if (m_done) return;
-    try {
-      m_connection.RollbackTrans();
-    } catch (const runtime::RuntimeError&) {
-      // The engine ends a transaction by itself after some failures. Whatever state it is in now, the next
-      // operation opens a new connection.
-      m_connection.Close();
-    }
-  }
-
-  void commit() {
-    m_connection.CommitTrans();
-    m_done = true;
-  }
-
- private:
-  ado::Connection& m_connection;
-  bool m_done = false;
-};
-
-SignInAnswer apply(Transaction& transaction, const QString& number, const QDateTime& now) {
+SignInAnswer apply(ado::Transaction& transaction, const QString& number, const QDateTime& now) {
   clsPresence presence;
   presence.setENUMBER(number);
   std::int16_t result = presence.Add(now);
@@ -111,7 +84,7 @@ SignInAnswer SignIn::sign(const QString& number) const {
 SignInAnswer SignIn::signOn(ado::Connection& connection, const QString& number) const {
   for (;;) {
     waitOutMidnight();
-    Transaction transaction(connection);
+    ado::Transaction transaction(connection);
     const QDateTime now = runtime::now();
     // The lock may have been long in coming.
     if (leftOfMidnight(now).count() == 0) return apply(transaction, number, wholeSeconds(now));

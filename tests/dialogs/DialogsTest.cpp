@@ -53,6 +53,7 @@ TEST(DialogsWithoutHost, AgreeToNothingAndSayItOnStandardError) {
   EXPECT_EQ(::testing::internal::GetCapturedStderr(), "询问：删除？\n完\n");
   EXPECT_EQ(dialogs::InputBoxText({}), std::nullopt);
   EXPECT_TRUE(dialogs::chooseFile({}).isEmpty());
+  EXPECT_EQ(dialogs::chooseFolder({}), std::nullopt);
   dialogs::installHost(before);
 }
 
@@ -100,6 +101,18 @@ TEST_F(Dialogs, SavedFileGetsTheFiltersSuffix) {
   box.fileName = directory.filePath(QStringLiteral("部门信息"));
   whenShown<QFileDialog>([](QFileDialog& window) { window.QDialog::done(QDialog::Accepted); });
   EXPECT_EQ(dialogs::chooseFile(box), QStringList(directory.filePath(QStringLiteral("部门信息.xml"))));
+}
+
+TEST_F(Dialogs, FolderBoxOpensOnTheFolderAndGivesItsFullPath) {
+  const QTemporaryDir directory;
+  whenShown<QFileDialog>([&directory](QFileDialog& window) {
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("照片"));
+    EXPECT_EQ(window.directory().path(), directory.path());
+    window.QDialog::done(QDialog::Accepted);
+  });
+  EXPECT_EQ(dialogs::chooseFolder({QStringLiteral("照片"), directory.path()}), directory.path());
+  whenShown<QFileDialog>([](QFileDialog& window) { window.reject(); });
+  EXPECT_EQ(dialogs::chooseFolder({}), std::nullopt);
 }
 
 TEST_F(Dialogs, ColourKeepsRedInTheLowByte) {

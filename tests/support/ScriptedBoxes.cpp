@@ -23,6 +23,10 @@ void ScriptedBoxes::expectFile(const QStringList& answer) {
   m_expected.emplace_back(ExpectedFile{answer});
 }
 
+void ScriptedBoxes::expectFolder(const std::optional<QString>& answer) {
+  m_expected.emplace_back(ExpectedFolder{answer});
+}
+
 void ScriptedBoxes::expectFont(const std::optional<dialogs::FontBox>& answer) {
   m_expected.emplace_back(ExpectedFont{answer});
 }
@@ -63,6 +67,11 @@ QStringList ScriptedBoxes::file(const dialogs::FileBox& box) {
   m_files.push_back(box);
   const auto expected = take<ExpectedFile>(QStringLiteral("file box ") + box.filter);
   return expected ? expected->answer : QStringList();
+}
+
+std::optional<QString> ScriptedBoxes::folder(const dialogs::FolderBox& box) {
+  const auto expected = take<ExpectedFolder>(QStringLiteral("folder box ") + box.title);
+  return expected ? expected->answer : std::nullopt;
 }
 
 std::optional<dialogs::FontBox> ScriptedBoxes::font(const dialogs::FontBox& box) {

@@ -22,6 +22,8 @@ class ScriptedBoxes : public dialogs::Host {
   void expectInput(const std::optional<QString>& answer);
   /// Expects a file box and gives `answer`; empty for cancel.
   void expectFile(const QStringList& answer);
+  /// Expects a folder box and gives `answer`; nothing for cancel.
+  void expectFolder(const std::optional<QString>& answer);
   void expectFont(const std::optional<dialogs::FontBox>& answer);
   void expectColor(const std::optional<dialogs::ColorBox>& answer);
 
@@ -33,6 +35,7 @@ class ScriptedBoxes : public dialogs::Host {
   dialogs::Answer message(const dialogs::MessageBox& box) override;
   std::optional<QString> input(const dialogs::InputBox& box) override;
   QStringList file(const dialogs::FileBox& box) override;
+  std::optional<QString> folder(const dialogs::FolderBox& box) override;
   std::optional<dialogs::FontBox> font(const dialogs::FontBox& box) override;
   std::optional<dialogs::ColorBox> color(const dialogs::ColorBox& box) override;
 
@@ -47,13 +50,17 @@ class ScriptedBoxes : public dialogs::Host {
   struct ExpectedFile {
     QStringList answer;
   };
+  struct ExpectedFolder {
+    std::optional<QString> answer;
+  };
   struct ExpectedFont {
     std::optional<dialogs::FontBox> answer;
   };
   struct ExpectedColor {
     std::optional<dialogs::ColorBox> answer;
   };
-  using Expected = std::variant<ExpectedMessage, ExpectedInput, ExpectedFile, ExpectedFont, ExpectedColor>;
+  using Expected =
+      std::variant<ExpectedMessage, ExpectedInput, ExpectedFile, ExpectedFolder, ExpectedFont, ExpectedColor>;
 
   /// Takes the next expectation when it is of the wanted kind; else fails the test naming the box.
   template <typename Kind>

@@ -35,6 +35,10 @@ QStringList chooseFile(const FileBox& box) {
   return installed ? installed->file(box) : QStringList();
 }
 
+std::optional<QString> chooseFolder(const FolderBox& box) {
+  return installed ? installed->folder(box) : std::nullopt;
+}
+
 std::optional<FontBox> chooseFont(const FontBox& box) {
   return installed ? installed->font(box) : std::nullopt;
 }

@@ -50,6 +50,13 @@ struct FileBox {
   int flags = 0;
 };
 
+/// Asks for a folder that is there.
+struct FolderBox {
+  QString title;
+  /// The folder shown first; empty for the one that the desktop shows.
+  QString folder;
+};
+
 struct FontBox {
   QString name;
   /// Points.
@@ -75,6 +82,8 @@ class Host {
   virtual std::optional<QString> input(const InputBox& box) = 0;
   /// The files chosen, full paths in the dialog's order; empty when cancelled.
   virtual QStringList file(const FileBox& box) = 0;
+  /// The full path of the folder.
+  virtual std::optional<QString> folder(const FolderBox& box) = 0;
   virtual std::optional<FontBox> font(const FontBox& box) = 0;
   virtual std::optional<ColorBox> color(const ColorBox& box) = 0;
 };
@@ -86,6 +95,7 @@ Host* installHost(Host* host);
 Answer MsgBox(const QString& text, int style, const QString& title);
 [[nodiscard]] std::optional<QString> InputBoxText(const InputBox& box);
 [[nodiscard]] QStringList chooseFile(const FileBox& box);
+[[nodiscard]] std::optional<QString> chooseFolder(const FolderBox& box);
 [[nodiscard]] std::optional<FontBox> chooseFont(const FontBox& box);
 [[nodiscard]] std::optional<ColorBox> chooseColor(const ColorBox& box);
 

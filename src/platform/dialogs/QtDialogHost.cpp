@@ -100,6 +100,15 @@ QStringList QtDialogHost::file(const FileBox& box) {
   return window.selectedFiles();
 }
 
+std::optional<QString> QtDialogHost::folder(const FolderBox& box) {
+  QFileDialog window(QApplication::activeWindow(), box.title);
+  window.setFileMode(QFileDialog::Directory);
+  window.setOption(QFileDialog::ShowDirsOnly);
+  if (!box.folder.isEmpty()) window.setDirectory(box.folder);
+  if (window.exec() != QDialog::Accepted) return std::nullopt;
+  return window.selectedFiles().value(0);
+}
+
 std::optional<FontBox> QtDialogHost::font(const FontBox& box) {
   QFont font(box.name);
   if (box.size > 0) font.setPointSizeF(box.size);

@@ -10,6 +10,7 @@ class QtDialogHost : public Host {
   Answer message(const MessageBox& box) override;
   std::optional<QString> input(const InputBox& box) override;
   QStringList file(const FileBox& box) override;
+  std::optional<QString> folder(const FolderBox& box) override;
   std::optional<FontBox> font(const FontBox& box) override;
   std::optional<ColorBox> color(const ColorBox& box) override;
 };
