@@ -4,6 +4,7 @@
 #include "cli/CardsCommand.h"
 #include "cli/CheckCommand.h"
 #include "cli/DemoCommand.h"
+#include "cli/ImportRosterCommand.h"
 #include "cli/InitCommand.h"
 #include "cli/ListCommand.h"
 #include "cli/MonthCommand.h"
@@ -22,8 +23,9 @@ std::unique_ptr<Command> make() {
 
 using Maker = std::unique_ptr<Command> (*)();
 constexpr Maker makers[] = {
-    make<InitCommand>, make<DemoCommand>,  make<ListCommand>,   make<CardsCommand>,  make<MonthCommand>,
-    make<SignCommand>, make<TodayCommand>, make<RemoveCommand>, make<BackupCommand>, make<CheckCommand>,
+    make<InitCommand>,   make<DemoCommand>,   make<ImportRosterCommand>, make<ListCommand>,
+    make<CardsCommand>,  make<MonthCommand>,  make<SignCommand>,         make<TodayCommand>,
+    make<RemoveCommand>, make<BackupCommand>, make<CheckCommand>,
 };
 
 }  // namespace
