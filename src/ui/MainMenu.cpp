@@ -9,6 +9,7 @@
 
 #include "ui/DeptDialogs.h"
 #include "ui/HelpMenu.h"
+#include "ui/ToolsMenu.h"
 #include "ui/frmMain.h"
 
 namespace {
@@ -50,6 +51,9 @@ constexpr std::array tree = {
     MenuEntry{L1(), L1("mnuAttendance"), u"考勤(&K)"},
     MenuEntry{L1("mnuAttendance"), L1("mnuMonthReport"), u"月考勤报表(&M)...",
               method<&frmMain::mnuMonthReport_Click>},
+
+    MenuEntry{L1(), L1("mnuTools"), u"工具(&T)"},
+    MenuEntry{L1("mnuTools"), L1("mnuRosterImport"), u"批量导入(&B)...", mnuRosterImport_Click},
 
     MenuEntry{L1(), L1("mnuHelp"), u"帮助(&H)"},
     MenuEntry{L1("mnuHelp"), L1("mnuHelpFile"), u"帮助文件(&F)", mnuHelpFile_Click},

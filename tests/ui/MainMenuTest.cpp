@@ -42,6 +42,8 @@ Opt 员工(&E)
   mnuEmpPrint 打印签到卡(&P)
 mnuAttendance 考勤(&K)
   mnuMonthReport 月考勤报表(&M)...
+mnuTools 工具(&T)
+  mnuRosterImport 批量导入(&B)...
 mnuHelp 帮助(&H)
   mnuHelpFile 帮助文件(&F)
   mnuVistHomePage 访问官方网站(&V)
@@ -55,9 +57,10 @@ mnuPopMenu 弹出菜单
 
 constexpr std::array departmentEntries = {"mnuDeptAppend", "mnuDeptRemove", "mnuDeptEdit", "mnuDeptExport"};
 constexpr std::array employeeEntries = {"mnuEmpImport", "mnuEmpExport", "mnuEmpPrint", "mnuEmpRemove"};
-constexpr std::array alwaysEnabled = {"mnuCardInfoSet", "mnuExit",     "mnuDeptDsp",    "mnuEmpDsp",
-                                      "mnuMonthReport", "mnuAbout",    "mnuPop_Append", "mnuPop_Edit",
-                                      "mnuPop_Remove",  "mnuHelpFile", "mnuPop_Export", "mnuVistHomePage"};
+constexpr std::array alwaysEnabled = {"mnuCardInfoSet", "mnuExit",         "mnuDeptDsp",  "mnuEmpDsp",
+                                      "mnuMonthReport", "mnuRosterImport", "mnuAbout",    "mnuPop_Append",
+                                      "mnuPop_Edit",    "mnuPop_Remove",   "mnuHelpFile", "mnuPop_Export",
+                                      "mnuVistHomePage"};
 
 class MainMenu : public MainWindow {
  protected:
