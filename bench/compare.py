@@ -86,7 +86,7 @@ def measure_month(directory, runs):
     homes = {}
     for people in (1000, 5000):
         home = demo(directory, f"month{people}", "--employees", str(people), "--photo-kb", "2", "--month", "2026-10")
-        subprocess.run([BIN / "bench_month_home", home, "2026-10"], check=True)
+        subprocess.run([BIN / "bench_presence_home", home, "2026-10-01", "31"], check=True)
         homes[people] = home
 
     def print_month(people, name):
@@ -103,6 +103,23 @@ def measure_month(directory, runs):
                           [BIN / "bench_month_workbook_floor", "1000", directory / "floor.xlsx"], runs)
     ratio_row("`attendancectl month` to .xlsx, 1,000 employees, 31 days, whole process / the library's own calls",
               ours, floor, "3")
+
+
+def measure_sign_in(directory, runs):
+    """A thousand employees who were there for ten days, and for two thousand."""
+    homes = {}
+    for days in (10, 2000):
+        homes[days] = demo(directory, f"days{days}", "--employees", "1000", "--photo-kb", "2", "--month", "2020-01")
+        subprocess.run([BIN / "bench_presence_home", homes[days], "2020-01-01", str(days)], check=True)
+
+    ours, floor = compare([BIN / "bench_sign_in", homes[10], "500"], [BIN / "bench_sign_in_floor", homes[10], "500"],
+                          runs)
+    ratio_row("500 sign-ins, each durable / the engine's own durable insertions", ours, floor, "2")
+    ours, floor = compare([BIN / "bench_sign_in", homes[2000], "500"], [BIN / "bench_sign_in", homes[10], "500"], runs)
+    ratio_row("500 sign-ins with 2,000,000 rows / with 10,000", ours, floor, "1.2")
+    ours, floor = compare([BIN / "bench_load_by_date", homes[2000], "2023-03-01"],
+                          [BIN / "bench_load_by_date_floor", homes[2000], "2023-03-01"], runs)
+    ratio_row("`LoadByDate`, 1,000 employees and 22 days of 2,000,000 rows / bare loop", ours, floor, "3")
 
 
 def main():
@@ -126,6 +143,7 @@ def main():
                               [BIN / "bench_first_preview_page", cards, "4"], runs)
         ratio_row("first page of the preview, 1,000 cards / 4 cards", ours, floor, "2")
         measure_month(directory, runs)
+        measure_sign_in(directory, runs)
 
 
 if __name__ == "__main__":

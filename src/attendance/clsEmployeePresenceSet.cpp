@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+#include <QHash>
+
 #include "attendance/clsPresenceSet.h"
 #include "runtime/Conversions.h"
 
@@ -11,8 +13,11 @@ bool clsEmployeePresenceSet::LoadByDate(const QDate& startDate, const QDate& end
   m_lastFailure = records.lastFailure();
   if (!loaded) return false;
   [[maybe_unused]] const std::int16_t count = runtime::toInt16(records.Count());
+  // Letter case is folded once for each spelling of a number, not for each of tens of thousands of records.
+  QHash<QString, std::shared_ptr<clsSingleEmployeeMonPresence>> known;
   for (const std::shared_ptr<clsPresence>& record : records) {
-    std::shared_ptr<clsSingleEmployeeMonPresence> employee = m_members.find(record->ENUMBER());
+    std::shared_ptr<clsSingleEmployeeMonPresence>& employee = known[record->ENUMBER()];
+    if (!employee) employee = m_members.find(record->ENUMBER());
     if (!employee) employee = Add(record->ENUMBER(), record->ENAME(), record->ENUMBER());
     employee->tryAddPresence(record->enterTime(), record->exitTime());
   }

@@ -34,7 +34,11 @@ lxw_col_t column(int number) {
 }  // namespace
 
 void Sheet::writeText(int r, int c, const QString& text, lxw_format* format) {
-  require(worksheet_write_string(m_sheet, row(r), column(c), text.toUtf8().constData(), format));
+  writeUtf8(r, c, text.toUtf8(), format);
+}
+
+void Sheet::writeUtf8(int r, int c, const QByteArray& text, lxw_format* format) {
+  require(worksheet_write_string(m_sheet, row(r), column(c), text.constData(), format));
 }
 
 void Sheet::writeNumber(int r, int c, int number, lxw_format* format) {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include <QByteArray>
 #include <QString>
 #include <QTemporaryDir>
 
@@ -24,6 +25,7 @@ class Sheet {
   explicit Sheet(lxw_worksheet* sheet) : m_sheet(sheet) {}
 
   void writeText(int row, int column, const QString& text, lxw_format* format);
+  void writeUtf8(int row, int column, const QByteArray& text, lxw_format* format);
   void writeNumber(int row, int column, int number, lxw_format* format);
   /// One text over the cells from the first place to the last, inclusive.
   void writeMerged(int row, int column, int lastRow, int lastColumn, const QString& text, lxw_format* format);

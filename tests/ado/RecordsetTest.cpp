@@ -48,6 +48,27 @@ TEST_F(AdoRecordset, ReadsForward) {
   EXPECT_EQ(failure([&] { std::ignore = rows.IsEOF(); }), number(AdoErrorNumber::OperationNotAllowed));
 }
 
+TEST_F(AdoRecordset, KeepsTextsAndBinariesOfEveryLength) {
+  QStringList texts;
+  for (const int size : {0, 1, 1365, 1366, 50'000, 20'000, 20'001, 0, 3}) {
+    texts.append(QStringLiteral("字").repeated(size) + u'x');
+  }
+  ado::Recordset rows;
+  open(rows, QString(QStringLiteral("SELECT '") + texts.join(QStringLiteral("' UNION ALL SELECT '")) + u'\'')
+                 .toUtf8());
+  for (const QString& text : texts) {
+    EXPECT_EQ(rows.Fields(0).Value(), QVariant(text));
+    rows.MoveNext();
+  }
+  ado::Recordset binaries;
+  open(binaries, "SELECT zeroblob(0), X'00', zeroblob(70000), X'01', 1.5, NULL");
+  EXPECT_EQ(binaries.Fields(0).Value(), QVariant(QByteArray("")));
+  EXPECT_EQ(binaries.Fields(2).Value(), QVariant(QByteArray(70'000, '\0')));
+  EXPECT_EQ(binaries.Fields(3).Value(), QVariant(QByteArray("\1")));
+  EXPECT_EQ(binaries.Fields(4).Value(), QVariant(1.5));
+  EXPECT_FALSE(binaries.Fields(5).Value().isValid());
+}
+
 TEST_F(AdoRecordset, HoldsNoLockOnceItIsOpen) {
   ado::Recordset rows;
   open(rows, joined);

@@ -15,6 +15,9 @@ int compare(const char* a, const char* b) {
 TEST(Collation, CaseWidthAndKanaDoNotCount) {
   const std::pair<const char*, const char*> same[] = {
       {"A001", "a001"},
+      {"NO.7ｶﾞｱz",
+       "no.7ガア"
+       "Z"},
       {"ＡＢＣ１２３", "abc123"},
       {"Ünïcode", "üNÏCODE"},
       {"ǍŌ", "ǎō"},
@@ -36,6 +39,8 @@ TEST(Collation, AccentsBlanksAndTheRestCount) {
   const std::pair<const char*, const char*> ascending[] = {
       {"e", "é"},
       {"a", "a "},
+      {"A9张", "a９张一"},
+      {"Z[", "z_"},
       {"", "a"},
       {"カ", "ガ"},
       {"×", "÷"},

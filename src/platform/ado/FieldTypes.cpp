@@ -57,31 +57,26 @@ int sizeOf(DataType type, const QString& declared) {
   }
 }
 
-int digits(QStringView text, qsizetype at, qsizetype count) {
+int digits(QByteArrayView text, qsizetype at, qsizetype count) {
   int number = 0;
-  for (const QChar c : text.mid(at, count)) {
-    if (c < u'0' || c > u'9') return -1;
-    number = number * 10 + (c.unicode() - u'0');
+  for (const char c : text.sliced(at, count)) {
+    if (c < '0' || c > '9') return -1;
+    number = number * 10 + (c - '0');
   }
   return number;
 }
 
 /// The stored form, yyyy-mm-dd[ hh:mm:ss], without the cost of taking every form that people write: a month
 /// of rows holds tens of thousands.
-QDateTime storedMoment(QStringView text) {
+QDateTime storedMoment(QByteArrayView text) {
   constexpr qsizetype dateSize = 10;
   constexpr qsizetype momentSize = 19;
   if (text.size() != dateSize && text.size() != momentSize) return {};
-  if (text.at(4) != u'-' || text.at(7) != u'-') return {};
+  if (text.at(4) != '-' || text.at(7) != '-') return {};
   const QDate date(digits(text, 0, 4), digits(text, 5, 2), digits(text, 8, 2));
   if (text.size() == dateSize) return date.isValid() ? QDateTime(date, QTime(0, 0)) : QDateTime();
   const QTime time(digits(text, 11, 2), digits(text, 14, 2), digits(text, 17, 2));
   return date.isValid() && time.isValid() ? QDateTime(date, time) : QDateTime();
-}
-
-QVariant momentOf(const QVariant& stored) {
-  const QDateTime moment = storedMoment(stored.toString());
-  return moment.isValid() ? moment : runtime::toDateTime(stored);
 }
 
 QVariant integerOf(qlonglong number) {
@@ -154,7 +149,15 @@ DataType typeOfValue(const QVariant& stored) {
 QVariant fromStored(const QVariant& stored, const FieldDefinition& definition) {
   if (stored.typeId() == QMetaType::LongLong) return integerOf(stored.toLongLong());
   if (definition.type != DataType::Date || !stored.isValid()) return stored;
-  return translatingErrors([&stored] { return momentOf(stored); });
+  return translatingErrors([&stored] { return runtime::toDateTime(stored); });
+}
+
+QVariant fromStoredText(QByteArrayView stored, const FieldDefinition& definition) {
+  if (definition.type == DataType::Date) {
+    const QDateTime moment = storedMoment(stored);
+    if (moment.isValid()) return moment;
+  }
+  return fromStored(QString::fromUtf8(stored), definition);
 }
 
 QVariant converted(const QVariant& assigned, const FieldDefinition& definition) {

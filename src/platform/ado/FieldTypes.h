@@ -16,6 +16,8 @@ namespace ado {
 
 /// A stored value as a field of that definition gives it.
 [[nodiscard]] QVariant fromStored(const QVariant& stored, const FieldDefinition& definition);
+/// The same of a text in UTF-8.
+[[nodiscard]] QVariant fromStoredText(QByteArrayView stored, const FieldDefinition& definition);
 /// A value that was assigned to a field, in the field's own type. Throws AdoError for a value that cannot be
 /// converted or is too long.
 [[nodiscard]] QVariant converted(const QVariant& assigned, const FieldDefinition& definition);

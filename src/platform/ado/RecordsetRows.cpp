@@ -12,10 +12,6 @@ namespace {
 
 const QVariant leftInDatabase = QVariant::fromValue(nullptr);
 
-bool isLeftInDatabase(const QVariant& value) {
-  return value.typeId() == QMetaType::Nullptr;
-}
-
 [[noreturn]] void notAllowed(const QString& why) {
   throw AdoError(AdoErrorNumber::OperationNotAllowed, why);
 }
@@ -49,10 +45,14 @@ void Recordset::Rows::load() {
   const int columns = static_cast<int>(m_query.fields.size());
   while (statement->step()) {
     for (int i = 0; i < columns; ++i) {
-      QVariant value = statement->value(i);
-      if (m_query.deferred(i))
-        value = value.toString() == QLatin1String("null") ? QVariant() : leftInDatabase;
-      m_values.push_back(std::move(value));
+      const std::optional<QByteArrayView> text = statement->text(i);
+      if (m_query.deferred(i)) {
+        m_values.append(text == QByteArrayView("null") ? QVariant() : leftInDatabase);
+      } else if (text) {
+        m_values.appendText(*text);
+      } else {
+        m_values.append(statement->value(i));
+      }
     }
     ++m_rowCount;
   }
@@ -64,7 +64,7 @@ void Recordset::Rows::typeExpressions() {
   if (m_rowCount == 0) return;
   for (std::size_t i = 0; i < m_query.fields.size(); ++i) {
     FieldDefinition& definition = m_query.fields[i];
-    if (definition.baseTable.isEmpty()) definition.type = typeOfValue(m_values[i]);
+    if (definition.baseTable.isEmpty()) definition.type = typeOfValue(m_values.value(i));
   }
 }
 
@@ -96,8 +96,8 @@ Field& Recordset::Rows::field(int index) {
   return m_fields[static_cast<std::size_t>(index)];
 }
 
-QVariant& Recordset::Rows::cell(std::size_t row, int column) {
-  return m_values[row * m_query.fields.size() + static_cast<std::size_t>(column)];
+std::size_t Recordset::Rows::place(std::size_t row, int column) const {
+  return row * m_query.fields.size() + static_cast<std::size_t>(column);
 }
 
 QVariant Recordset::Rows::value(int column) {
@@ -105,16 +105,18 @@ QVariant Recordset::Rows::value(int column) {
   const auto assigned = m_assigned.find(column);
   if (assigned != m_assigned.end()) return assigned->second;
   if (m_adding) return {};
-  const QVariant& stored = cell(m_current, column);
-  if (isLeftInDatabase(stored)) return translatingErrors([&] { return fetch(column); });
-  return fromStored(stored, m_query.fields[static_cast<std::size_t>(column)]);
+  const std::size_t stored = place(m_current, column);
+  if (m_values.isLeftInDatabase(stored)) return translatingErrors([&] { return fetch(column); });
+  const FieldDefinition& definition = m_query.fields[static_cast<std::size_t>(column)];
+  if (const auto text = m_values.text(stored)) return fromStoredText(*text, definition);
+  return fromStored(m_values.value(stored), definition);
 }
 
 QVariant Recordset::Rows::fetch(int column) {
   const int keyColumn = m_query.keyColumns[static_cast<std::size_t>(column)];
   const auto keyOfRow = [&](std::size_t row) {
-    const bool left = !m_deleted[row] && isLeftInDatabase(cell(row, column));
-    return left ? cell(row, keyColumn) : QVariant();
+    const bool left = !m_deleted[row] && m_values.isLeftInDatabase(place(row, column));
+    return left ? m_values.value(place(row, keyColumn)) : QVariant();
   };
   QVariant value;
   if (!readAhead(column).fetch(*database(), m_current, m_rowCount, keyOfRow, value)) rowGone();
@@ -183,11 +185,11 @@ void Recordset::Rows::insertRow() {
                                          : u'(' + columns.join(u',') + QStringLiteral(") VALUES(") +
                                                parameters(m_assigned.size()) + u')';
   database()->run(QStringLiteral("INSERT INTO ") + store::quotedName(m_query.table) + rest, values);
-  m_values.resize(m_values.size() + m_query.fields.size());
+  m_values.appendNulls(m_query.fields.size());
   m_deleted.push_back(false);
   m_current = m_rowCount++;
   m_adding = false;
-  cell(m_current, m_query.tableKey) = database()->lastInsertedKey();
+  m_values.set(place(m_current, m_query.tableKey), database()->lastInsertedKey());
   keepAssigned();
 }
 
@@ -199,7 +201,7 @@ void Recordset::Rows::changeRow() {
                        QStringLiteral("=?"));
     values.append(toStored(value));
   }
-  values.append(cell(m_current, m_query.tableKey));
+  values.append(m_values.value(place(m_current, m_query.tableKey)));
   const QString keyName = m_query.fields[static_cast<std::size_t>(m_query.tableKey)].baseColumn;
   const int changed =
       database()->run(QStringLiteral("UPDATE ") + store::quotedName(m_query.table) + QStringLiteral(" SET ") +
@@ -214,7 +216,8 @@ void Recordset::Rows::changeRow() {
 void Recordset::Rows::keepAssigned() {
   m_readAhead.clear();
   for (const auto& [column, value] : m_assigned) {
-    cell(m_current, column) = m_query.deferred(column) && value.isValid() ? leftInDatabase : toStored(value);
+    const bool left = m_query.deferred(column) && value.isValid();
+    m_values.set(place(m_current, column), left ? leftInDatabase : toStored(value));
   }
 }
 
@@ -227,7 +230,7 @@ void Recordset::Rows::remove() {
   const int deleted =
       database()->run(QStringLiteral("DELETE FROM ") + store::quotedName(m_query.table) +
                           QStringLiteral(" WHERE ") + store::quotedName(keyName) + QStringLiteral("=?"),
-                      {cell(m_current, m_query.tableKey)});
+                      {m_values.value(place(m_current, m_query.tableKey))});
   if (deleted == 0) rowGone();
   m_deleted[m_current] = true;
 }

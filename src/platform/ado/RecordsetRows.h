@@ -7,6 +7,7 @@
 #include "ado/Query.h"
 #include "ado/ReadAhead.h"
 #include "ado/Recordset.h"
+#include "ado/RowValues.h"
 
 namespace ado {
 
@@ -34,7 +35,7 @@ class Recordset::Rows {
   void load();
   void typeExpressions();
   [[nodiscard]] std::shared_ptr<store::Database> database() const;
-  [[nodiscard]] QVariant& cell(std::size_t row, int column);
+  [[nodiscard]] std::size_t place(std::size_t row, int column) const;
   [[nodiscard]] QVariant fetch(int column);
   [[nodiscard]] ReadAhead& readAhead(int column);
   void requireRow() const;
@@ -51,8 +52,7 @@ class Recordset::Rows {
   Query m_query;
   std::vector<Field> m_fields;
 
-  /// Row after row, in stored form; a long binary that is left in the database is a null pointer.
-  std::vector<QVariant> m_values;
+  RowValues m_values;
   std::size_t m_rowCount = 0;
   std::size_t m_current = 0;
   std::vector<bool> m_deleted;

@@ -53,6 +53,7 @@ Integer toInteger(const QVariant& value) {
 }  // namespace
 
 QString toText(const QVariant& value) {
+  if (value.typeId() == QMetaType::QString) return value.toString();
   requireValue(value);
   if (value.typeId() == QMetaType::QDateTime) return dateTimeText(value.toDateTime());
   if (!value.canConvert<QString>() || value.typeId() == QMetaType::QByteArray) {

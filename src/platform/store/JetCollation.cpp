@@ -69,6 +69,14 @@ char32_t folded(char32_t c) {
   return static_cast<char32_t>(static_cast<int>(c) + range->shift);
 }
 
+bool isAscii(char byte) {
+  return static_cast<unsigned char>(byte) < 0x80;
+}
+
+char foldedAscii(char byte) {
+  return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte + ('a' - 'A')) : byte;
+}
+
 /// Reads a UTF-8 text folded character by folded character.
 class Reader {
  public:
@@ -117,8 +125,15 @@ class Reader {
 }  // namespace
 
 int compareJet(std::string_view a, std::string_view b) {
-  Reader left(a);
-  Reader right(b);
+  // Most texts are numbers and moments, and an index asks for millions of comparisons.
+  std::size_t at = 0;
+  for (; at < std::min(a.size(), b.size()) && isAscii(a[at]) && isAscii(b[at]); ++at) {
+    const char l = foldedAscii(a[at]);
+    const char r = foldedAscii(b[at]);
+    if (l != r) return l < r ? -1 : 1;
+  }
+  Reader left(a.substr(at));
+  Reader right(b.substr(at));
   while (!left.atEnd() && !right.atEnd()) {
     const char32_t l = left.next();
     const char32_t r = right.next();

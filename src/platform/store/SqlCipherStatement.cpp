@@ -124,15 +124,19 @@ QVariant SqlCipherStatement::value(int index) const {
       return static_cast<qlonglong>(sqlite3_column_int64(m_statement, index));
     case SQLITE_FLOAT:
       return sqlite3_column_double(m_statement, index);
-    case SQLITE_TEXT: {
-      const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(m_statement, index));
-      return QString::fromUtf8(text, sqlite3_column_bytes(m_statement, index));
-    }
+    case SQLITE_TEXT:
+      return QString::fromUtf8(*text(index));
     case SQLITE_BLOB:
       return bytes(index);
     default:
       return {};
   }
+}
+
+std::optional<QByteArrayView> SqlCipherStatement::text(int index) const {
+  if (sqlite3_column_type(m_statement, index) != SQLITE_TEXT) return std::nullopt;
+  const auto* utf8 = reinterpret_cast<const char*>(sqlite3_column_text(m_statement, index));
+  return QByteArrayView(utf8, sqlite3_column_bytes(m_statement, index));
 }
 
 QByteArray SqlCipherStatement::bytes(int index) const {

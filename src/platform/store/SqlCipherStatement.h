@@ -20,6 +20,7 @@ class SqlCipherStatement : public Statement {
   [[nodiscard]] int columnCount() const override;
   [[nodiscard]] ColumnInfo column(int index) const override;
   [[nodiscard]] QVariant value(int index) const override;
+  [[nodiscard]] std::optional<QByteArrayView> text(int index) const override;
 
  private:
   [[nodiscard]] bool holdsLongBinary() const;

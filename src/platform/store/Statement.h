@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+
+#include <QByteArrayView>
 #include <QString>
 #include <QVariant>
 
@@ -39,6 +42,8 @@ class Statement {
   [[nodiscard]] virtual ColumnInfo column(int index) const = 0;
   /// The value of the current row.
   [[nodiscard]] virtual QVariant value(int index) const = 0;
+  /// The value of the current row when it is a text, in UTF-8 and not copied: it is gone with the next step.
+  [[nodiscard]] virtual std::optional<QByteArrayView> text(int index) const = 0;
 };
 
 }  // namespace store
