@@ -122,6 +122,7 @@ SingleEmployeeInfoReport::SingleEmployeeInfoReport() {
   PageFooter.Name = QStringLiteral("PageFooter");
   Detail.Name = QStringLiteral("Detail");
   Detail.Height = bandHeight;
+  Detail.EntryControl = QStringLiteral("lblName");
   for (const CardControl& design : cardDesign()) Detail.Controls.push_back(makeControl(design));
   Detail.control(QStringLiteral("logPic")).Picture = defaultLogo();
 }

@@ -108,6 +108,53 @@ TEST_F(PageViewTest, EveryPageCanBeGoneToWhenAllAreSeenAtOnce) {
   }
 }
 
+TEST_F(PageViewTest, RevealsAPlaceAndScrollsNoFurtherThanNeeded) {
+  open(10);
+  view->setZoom({Zoom::Fit::None, 200});
+  const auto shown = [&](int page, const QRectF& twips) {
+    const double scale = view->layout().pageRect(0).width() / 11906.0;
+    const QRectF box(twips.topLeft() * scale, twips.size() * scale);
+    const QPoint scrolled(view->horizontalScrollBar()->value(), view->verticalScrollBar()->value());
+    const QPoint corner = view->layout().pageRect(page).topLeft() - scrolled;
+    return QRect(QPoint(), view->viewport()->size()).contains(box.toAlignedRect().translated(corner));
+  };
+  for (const auto& [page, corner] : {std::pair(7, QPoint(9000, 15000)), std::pair(2, QPoint(100, 100))}) {
+    const QRectF box(corner, QSizeF(1500, 300));
+    view->reveal(page, box);
+    EXPECT_EQ(view->currentPage(), page);
+    EXPECT_TRUE(shown(page, box)) << page;
+  }
+  const int before = view->verticalScrollBar()->value();
+  view->reveal(2, QRectF(100, 900, 1500, 300));
+  EXPECT_EQ(view->verticalScrollBar()->value(), before);
+}
+
+TEST_F(PageViewTest, FittedPagesNeverNeedAHorizontalBar) {
+  open(40);
+  for (const Zoom::Fit fit : {Zoom::Fit::Several, Zoom::Fit::Page, Zoom::Fit::Width}) {
+    view->setZoom({fit, 100});
+    for (int width = 300; width < 900; width += 7) {
+      view->resize(width, 500);
+      EXPECT_EQ(view->horizontalScrollBar()->maximum(), 0) << width;
+    }
+  }
+}
+
+TEST_F(PageViewTest, AmongSeveralPagesTheChosenOneStaysUntilItIsScrolledAway) {
+  open(40, {Zoom::Fit::Several, 100});
+  ASSERT_GT(view->layout().columns(), 1);
+  view->goToPage(1);
+  EXPECT_EQ(view->verticalScrollBar()->value(), 0) << "it was seen already";
+  view->verticalScrollBar()->setValue(5);
+  EXPECT_EQ(view->currentPage(), 1);
+  view->verticalScrollBar()->setValue(view->layout().scrollOf(30));
+  EXPECT_EQ(view->currentPage(), view->layout().pageAt(view->layout().pageRect(30).top()));
+  view->goToPage(33);
+  view->resize(500, 900);
+  settle();
+  EXPECT_EQ(view->currentPage(), 33);
+}
+
 TEST_F(PageViewTest, ControlAndWheelZoomsAroundThePointer) {
   open(10);
   view->setZoom({Zoom::Fit::None, 100});

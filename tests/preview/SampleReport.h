@@ -14,6 +14,7 @@ class SampleReport : public report::ActiveReport {
     label.Height = 2000;
     label.Font.size = 72;
     Detail.Controls.push_back(label);
+    Detail.EntryControl = label.Name;
     report::LocalizeToolbar(Toolbar);
   }
 

@@ -38,6 +38,7 @@ TEST_F(CardReport, EachEmployeeGetsACardInOrderFourAPage) {
   EXPECT_EQ(texts(document, "lblName", 1), QStringList({QStringLiteral("员工5"), QStringLiteral("员工6"),
                                                         QStringLiteral("员工7"), QStringLiteral("员工8")}));
   EXPECT_EQ(texts(document, "lblNumber", 2), QStringList(QStringLiteral("G9")));
+  EXPECT_EQ(document.entries(2), QStringList(QStringLiteral("员工9"))) << "the table of contents";
   EXPECT_EQ(texts(document, "lblDept", 2), QStringList(QStringLiteral("教务处")));
   EXPECT_EQ(texts(document, "Barcode", 2), QStringList(QStringLiteral("123456789012345")));
   EXPECT_EQ(texts(document, "Label2", 2), QStringList(QStringLiteral("岗位")));

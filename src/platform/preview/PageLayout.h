@@ -5,7 +5,7 @@
 
 namespace preview {
 
-/// Where the pages lie in the scrolled content, one below the other: arithmetic only, so that a thousand
+/// Where the pages lie in the scrolled content, in rows of one or more: arithmetic only, so that a thousand
 /// pages cost as much as one. All numbers are logical pixels.
 class PageLayout {
  public:
@@ -13,26 +13,36 @@ class PageLayout {
   static constexpr int gap = 12;
 
   PageLayout() = default;
-  /// Pages of `pageSize`, centred in the width of `viewport`; a content lower than it is centred as well.
-  PageLayout(int pageCount, QSize pageSize, QSize viewport);
+  /// Pages of `pageSize`, `columns` to a row, centred in the width of `viewport`; a content lower than it is
+  /// centred as well.
+  PageLayout(int pageCount, QSize pageSize, QSize viewport, int columns = 1);
 
   [[nodiscard]] int pageCount() const { return m_count; }
+  [[nodiscard]] int columns() const { return m_columns; }
   [[nodiscard]] QSize pageSize() const { return m_page; }
   [[nodiscard]] QSize contentSize() const;
   [[nodiscard]] QRect pageRect(int index) const;
-  /// The page at height `y`, or the nearest one above it; 0 above the first page.
+  /// The first page of the row at height `y`, or of the nearest row above it; 0 above the first row.
   [[nodiscard]] int pageAt(int y) const;
-  /// Where to scroll so that page `index` starts at the top of the view.
+  /// The last page of that row.
+  [[nodiscard]] int lastPageAt(int y) const;
+  /// The page at `place`, or the nearest one of that row.
+  [[nodiscard]] int pageNear(QPoint place) const;
+  /// Where to scroll so that the row of page `index` starts at the top of the view.
   [[nodiscard]] int scrollOf(int index) const { return pageRect(index).top() - gap; }
   /// The page that a reader looks at when the content is scrolled to `scroll`.
   [[nodiscard]] int currentPage(int scroll) const;
 
  private:
   [[nodiscard]] int step() const { return m_page.height() + gap; }
+  [[nodiscard]] int stride() const { return m_page.width() + gap; }
+  [[nodiscard]] int rows() const { return (m_count + m_columns - 1) / m_columns; }
+  [[nodiscard]] int left() const;
 
   int m_count = 0;
   QSize m_page;
   QSize m_viewport;
+  int m_columns = 1;
   int m_top = gap;
 };
 

@@ -13,6 +13,8 @@ namespace preview {
 namespace {
 
 constexpr std::array separators{1, 3, 5, 7, 10, 14, 18};
+constexpr std::array switches{PreviewToolbar::Contents, PreviewToolbar::SinglePage,
+                              PreviewToolbar::ManyPages};
 constexpr int iconSide = 22;
 
 }  // namespace
@@ -41,6 +43,7 @@ void PreviewToolbar::addTool(int index, const report::Tool& texts) {
   if (!texts.Caption.isEmpty()) action->setIconText(texts.Caption);
   action->setToolTip(texts.Tooltip);
   action->setEnabled(false);
+  action->setCheckable(std::find(switches.begin(), switches.end(), index) != switches.end());
   if (!texts.Caption.isEmpty()) return;
   if (auto* button = qobject_cast<QToolButton*>(widgetForAction(action))) {
     button->setToolButtonStyle(Qt::ToolButtonIconOnly);
@@ -76,11 +79,17 @@ void PreviewToolbar::setToolEnabled(Place place, bool enabled) {
 }
 
 void PreviewToolbar::showZoom(const Zoom& zoom) {
+  m_zoom->setPlaceholderText(zoomText(zoom));
   m_zoom->setCurrentIndex(m_zoom->findText(zoomText(zoom)));
 }
 
 void PreviewToolbar::showPage(int current, int count) {
   m_page->setText(QStringLiteral("%1 / %2").arg(count == 0 ? 0 : current + 1).arg(count));
+}
+
+void PreviewToolbar::editPage() {
+  m_page->setFocus();
+  m_page->selectAll();
 }
 
 int pageOfText(const QString& text, int pageCount) {

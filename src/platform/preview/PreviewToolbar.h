@@ -33,17 +33,21 @@ class PreviewToolbar : public QToolBar {
     SavePdf = 21,
   };
 
-  /// Every tool stands disabled until somebody enables it.
+  /// Every tool stands disabled until somebody enables it. Contents, SinglePage and ManyPages can be checked.
   explicit PreviewToolbar(const report::Toolbar& texts, QWidget* parent = nullptr);
 
   [[nodiscard]] QAction* tool(Place place) const { return actions().at(place); }
   /// Enables the tool or the box at `place`.
   void setToolEnabled(Place place, bool enabled);
+  /// Shows whether what the tool switches on is on.
+  void setToolChecked(Place place, bool checked) { tool(place)->setChecked(checked); }
 
-  /// Shows `zoom` as chosen; what is no entry of the list shows as its percentage.
+  /// Shows `zoom` as chosen, by its name when it is no entry of the list.
   void showZoom(const Zoom& zoom);
   /// Shows that page `current` (from 0) of `count` is looked at.
   void showPage(int current, int count);
+  /// Lets the user type a page.
+  void editPage();
 
  signals:
   void zoomChosen(const preview::Zoom& zoom);

@@ -11,9 +11,10 @@ namespace preview {
 
 class Printers;
 
-/// Shows a laid-out report page by page, prints it and stores it as PDF. Pages are painted when they come
-/// into view, into a bounded cache. Control names: `toolbar`, `view`, `cmbZoom`, `txtPage`; a tool's action
-/// is found by its index.
+/// Shows a laid-out report page by page, with its table of contents, finds texts in it, prints it, copies
+/// pages and stores it as PDF. Pages are painted when they come into view, into a bounded cache. Control
+/// names: `toolbar`, `view`, `contents`, `findBar`, `cmbZoom`, `txtPage`; a tool's action is found by its
+/// index.
 class PreviewWindow : public QDialog {
   Q_OBJECT
 
@@ -23,6 +24,10 @@ class PreviewWindow : public QDialog {
   PreviewWindow(report::Document document, const report::Toolbar& toolbar, std::unique_ptr<Printers> printers,
                 QWidget* parent = nullptr);
   ~PreviewWindow() override;
+
+ protected:
+  /// Escape closes the find bar first, then the window.
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   class Parts;

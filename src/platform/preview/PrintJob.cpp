@@ -6,6 +6,7 @@
 #include <QPageRanges>
 #include <QPageSize>
 #include <QPainter>
+#include <QScopeGuard>
 
 #include "graphics/Twips.h"
 #include "report/PagePainter.h"
@@ -79,13 +80,12 @@ bool printPages(QPrinter& printer, const report::Document& document, const std::
   QPainter painter;
   // A printer that is gone still calls itself idle: only begin() tells.
   if (!painter.begin(&printer)) fail(QStringLiteral("无法开始打印"), printer);
+  // Half a job is worth nothing: whatever stops it, what has not been printed yet is dropped.
+  auto abandon = qScopeGuard([&printer] { printer.abort(); });
   report::DecodingPictureSource pictures;
   const int total = static_cast<int>(pages.size());
   for (int done = 0; done < total; ++done) {
-    if (!progress(done, total)) {
-      printer.abort();
-      return false;
-    }
+    if (!progress(done, total)) return false;
     if (done > 0 && !printer.newPage()) fail(QStringLiteral("打印中断"), printer);
     painter.save();
     fitToPaper(painter, printer, document.paperSize());
@@ -94,6 +94,7 @@ bool printPages(QPrinter& printer, const report::Document& document, const std::
   }
   const bool ended = painter.end();
   if (!ended || printer.printerState() == QPrinter::Error) fail(QStringLiteral("打印中断"), printer);
+  abandon.dismiss();
   progress(total, total);
   return true;
 }

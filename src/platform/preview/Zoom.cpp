@@ -28,6 +28,8 @@ QString zoomText(const Zoom& zoom) {
       return QStringLiteral("整页");
     case Zoom::Fit::Width:
       return QStringLiteral("页宽");
+    case Zoom::Fit::Several:
+      return QStringLiteral("多页");
     case Zoom::Fit::None:
       break;
   }

@@ -6,9 +6,10 @@
 
 namespace preview {
 
-/// How large pages are shown: fitted to the view, or a percentage of their true size.
+/// How large pages are shown: fitted to the view (one page, its width, or several pages at once), or a
+/// percentage of their true size.
 struct Zoom {
-  enum class Fit { None, Page, Width };
+  enum class Fit { None, Page, Width, Several };
 
   Fit fit = Fit::None;
   /// Used without a fit only.
@@ -22,7 +23,7 @@ inline constexpr int largestPercent = 800;
 
 /// The entries of the zoom list, in its order: the two fits, then the percentages upward.
 [[nodiscard]] const std::vector<Zoom>& zoomList();
-/// The text of an entry: "整页", "页宽" or the percentage.
+/// What a zoom is called: "整页", "页宽", "多页" or the percentage.
 [[nodiscard]] QString zoomText(const Zoom& zoom);
 /// The nearest percentage of the list above `percent`, the largest when there is none.
 [[nodiscard]] int percentAbove(double percent);

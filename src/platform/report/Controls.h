@@ -42,6 +42,9 @@ struct Section {
   QString Name;
   int Height = 0;
   std::vector<Control> Controls;
+  /// Name of the label whose text stands for a band in the table of contents; empty when bands are not
+  /// listed.
+  QString EntryControl;
 
   /// The control of that name. Throws runtime::RuntimeError when there is none.
   [[nodiscard]] Control& control(const QString& name);

@@ -1,5 +1,7 @@
 #include "report/DocumentData.h"
 
+#include <algorithm>
+
 #include "runtime/RuntimeError.h"
 
 namespace report {
@@ -56,6 +58,14 @@ Control applyBand(const Section& design, std::size_t index, const Band& band, st
     ++next;
   }
   return control;
+}
+
+QString captionIn(const Section& design, std::size_t index, const Band& band) {
+  const auto change = std::find_if(band.changes.begin(), band.changes.end(),
+                                   [index](const Change& candidate) { return candidate.control == index; });
+  if (change == band.changes.end()) return design.Controls[index].Caption;
+  std::size_t next = static_cast<std::size_t>(change - band.changes.begin());
+  return applyBand(design, index, band, next).Caption;
 }
 
 std::vector<PageLayout> breakIntoPages(const std::vector<Band>& bands, int top, int bottom) {

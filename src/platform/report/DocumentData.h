@@ -32,6 +32,8 @@ struct Band {
 /// The control of `design` at `index` with the changes of `band` from `next` on applied; moves `next` on.
 [[nodiscard]] Control applyBand(const Section& design, std::size_t index, const Band& band,
                                 std::size_t& next);
+/// The caption that the control of `design` at `index` has in `band`.
+[[nodiscard]] QString captionIn(const Section& design, std::size_t index, const Band& band);
 
 struct PlacedBand {
   std::size_t band = 0;
