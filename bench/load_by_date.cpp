@@ -9,9 +9,11 @@
 #include "attendance/clsEmployeePresenceSet.h"
 #include "foundation/GlobalDefine.h"
 #include "foundation/clsDbConn.h"
+#include "runtime/Clock.h"
 #include "runtime/ProgramDirectory.h"
 
 int main(int argc, char** argv) {
+  runtime::nameTimeZone();
   const QCoreApplication application(argc, argv);
   if (argc != 3) return 2;
   runtime::setAppPath(QString::fromLocal8Bit(argv[1]));

@@ -42,6 +42,7 @@ QStringList numbers(int count) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  runtime::nameTimeZone();
   const QCoreApplication application(argc, argv);
   if (argc != 3) return 2;
   runtime::setAppPath(QString::fromLocal8Bit(argv[1]));

@@ -10,6 +10,7 @@
 #include <QTemporaryDir>
 
 #include "cli/CommandLine.h"
+#include "runtime/Clock.h"
 
 namespace {
 
@@ -17,12 +18,6 @@ namespace {
 void useUtf8() {
   std::setlocale(LC_ALL, "");
   if (qstrcmp(nl_langinfo(CODESET), "UTF-8") != 0) qputenv("LC_ALL", "C.UTF-8");
-}
-
-/// Without it the system looks at the zone's file for every moment that is made, 62,000 times for a month of
-/// a thousand employees.
-void nameTimeZone() {
-  if (qEnvironmentVariableIsEmpty("TZ")) qputenv("TZ", ":/etc/localtime");
 }
 
 /// Whether it is a directory of the user's own that nobody else may enter: Qt refuses any other.
@@ -62,7 +57,7 @@ int runCommand(int argc, char** argv, cli::CommandLine& line, const cli::Streams
 
 int main(int argc, char** argv) {
   useUtf8();
-  nameTimeZone();
+  runtime::nameTimeZone();
   QFile standardOutput;
   if (!standardOutput.open(stdout, QIODevice::WriteOnly)) return cli::Failed;
   QTextStream out(&standardOutput);

@@ -6,6 +6,7 @@
 #include <QTranslator>
 
 #include "graphics/Fonts.h"
+#include "runtime/Clock.h"
 #include "runtime/ProgramDirectory.h"
 
 namespace {
@@ -47,6 +48,7 @@ void showText(int argc, char** argv, const WindowedProgram& program) {
 
 int runWindowed(int argc, char** argv, const WindowedProgram& program,
                 const std::function<int(const QCommandLineParser&)>& run) {
+  runtime::nameTimeZone();
   QCoreApplication::setApplicationName(program.name);
   QCoreApplication::setApplicationVersion(program.version);
   QGuiApplication::setDesktopFileName(program.name);

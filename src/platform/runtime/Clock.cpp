@@ -16,4 +16,8 @@ const Clock* installClock(const Clock* clock) {
   return std::exchange(installed, clock);
 }
 
+void nameTimeZone() {
+  if (qEnvironmentVariableIsEmpty("TZ")) qputenv("TZ", ":/etc/localtime");
+}
+
 }  // namespace runtime

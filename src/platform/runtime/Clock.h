@@ -23,4 +23,9 @@ class Clock {
 /// system's). The caller keeps ownership.
 const Clock* installClock(const Clock* clock);
 
+/// Names the system's time zone to the C library unless it is named already. Without a name it looks at the
+/// zone's file for every moment that is made, tens of thousands of times for a month. To be called before
+/// anything asks for local time.
+void nameTimeZone();
+
 }  // namespace runtime
