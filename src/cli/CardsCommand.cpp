@@ -1,14 +1,24 @@
 #include "cli/CardsCommand.h"
 
+#include "ado/Recordset.h"
 #include "cli/Database.h"
 #include "cli/OutputFile.h"
+#include "foundation/SqlText.h"
 #include "printing/SingleEmployeeInfoReport.h"
 #include "report/Pdf.h"
+#include "runtime/Conversions.h"
 #include "runtime/RuntimeError.h"
 
 namespace cli {
 
 namespace {
+
+/// The number as it is stored, which may differ from `number` in letter case; `number` where there is none.
+QString storedNumber(const std::shared_ptr<ado::Connection>& connection, const QString& number) {
+  ado::Recordset rows;
+  rows.Open(QStringLiteral("SELECT ENUMBER FROM Employee WHERE ENUMBER=") + sql::quoted(number), connection);
+  return rows.IsEOF() ? number : runtime::toTextOrEmpty(rows.Fields(0).Value());
+}
 
 std::shared_ptr<clsEmployee> loaded(const QString& number) {
   auto employee = std::make_shared<clsEmployee>();
@@ -46,14 +56,15 @@ QString CardsCommand::usageFault() const {
   return QStringLiteral("请给出 --all 或 --number 其中之一");
 }
 
-std::shared_ptr<clsEmployeeSet> CardsCommand::load() const {
+std::shared_ptr<clsEmployeeSet> CardsCommand::load(const std::shared_ptr<ado::Connection>& connection) const {
   auto employees = std::make_shared<clsEmployeeSet>();
   if (m_all) {
     std::ignore = employees->LoadSet();
     return employees;
   }
   QStringList seen;
-  for (const QString& number : m_numbers) {
+  for (const QString& typed : m_numbers) {
+    const QString number = storedNumber(connection, typed);
     if (seen.contains(number, Qt::CaseInsensitive)) continue;
     seen.append(number);
     std::ignore = employees->Add(loaded(number));
@@ -64,7 +75,7 @@ std::shared_ptr<clsEmployeeSet> CardsCommand::load() const {
 int CardsCommand::run(const Streams& streams) {
   const auto connection = openDatabase();
   refuseOwnFile(m_out);
-  const auto employees = load();
+  const auto employees = load(connection);
   if (employees->Count() == 0) {
     streams.err << QStringLiteral("没有可打印的员工\n");
     return Failed;

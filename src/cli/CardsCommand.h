@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "ado/Connection.h"
 #include "cli/Command.h"
 #include "records/clsEmployeeSet.h"
 
@@ -18,7 +19,8 @@ class CardsCommand : public Command {
   [[nodiscard]] int run(const Streams& streams) override;
 
  private:
-  [[nodiscard]] std::shared_ptr<clsEmployeeSet> load() const;
+  [[nodiscard]] std::shared_ptr<clsEmployeeSet> load(
+      const std::shared_ptr<ado::Connection>& connection) const;
 
   bool m_all = false;
   QStringList m_numbers;

@@ -90,6 +90,16 @@ void store(const Bound& bound) {
   if (values.contains(QString())) throw UsageError(QStringLiteral("%1 不能为空").arg(option.name));
 }
 
+/// The parser takes whatever stands behind an option for its value, the next option as well.
+void refuseOptionAsValue(const Bound& bound, const std::vector<Bound>& all) {
+  if (!bound.option.name.startsWith(u'-') || bound.parsed->results().empty()) return;
+  const QString value = QString::fromStdString(bound.parsed->results().front());
+  const bool isOption = std::any_of(all.begin(), all.end(), [&value](const Bound& other) {
+    return other.option.name.startsWith(u'-') && other.option.name == value;
+  });
+  if (isOption) throw UsageError(QStringLiteral("选项 %1 缺少值").arg(bound.option.name));
+}
+
 /// The value of --home, which may stand before or behind the command; the one behind counts.
 QString homeOf(const CLI::Option* before, const CLI::Option* behind) {
   const CLI::Option* given = behind->count() > 0 ? behind : before;
@@ -160,6 +170,7 @@ std::optional<int> CommandLine::parse(const QStringList& arguments, const Stream
       if (!parsers[i]->parsed()) continue;
       m_chosen = m_commands[i].get();
       m_home = homeOf(homeBefore, homesBehind[i]);
+      for (const Bound& option : bound[i]) refuseOptionAsValue(option, bound[i]);
       for (const Bound& option : bound[i]) store(option);
     }
     if (m_chosen == nullptr) throw UsageError(QStringLiteral("缺少命令"));

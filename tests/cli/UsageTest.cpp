@@ -22,6 +22,7 @@ TEST(Usage, WrongArgumentsAreToldAndChangeNothing) {
       {"list employees --fast", "不认识的参数：--fast"},
       {"remove", "缺少 NUMBER"},
       {"backup", "缺少 --out"},
+      {"cards --number --out a.pdf", "选项 --number 缺少值"},
       {"backup --out a --out b", "选项 --out 缺少值，或给出了不止一个值"},
       {"cards --out a.pdf", "请给出 --all 或 --number 其中之一"},
       {"cards --all --number 1 --out a.pdf", "请给出 --all 或 --number 其中之一"},
