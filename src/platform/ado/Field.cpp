@@ -2,7 +2,8 @@
 
 #include <utility>
 
-#include "ado/RecordsetRows.h"
+#include "ado/Recordset.h"
+#include "ado/RowSource.h"
 
 namespace ado {
 

@@ -5,11 +5,15 @@
 
 namespace ado {
 
-/// Numbers of ADO's DataTypeEnum for the types that the tables use.
+/// Numbers of ADO's DataTypeEnum for the types that the tables use; Boolean and Decimal only come from files.
 enum class DataType {
   Integer = 3,
   Double = 5,
   Date = 7,
+  /// -1 for true, 0 for false.
+  Boolean = 11,
+  /// The digits as text, none lost.
+  Decimal = 14,
   VarWChar = 202,
   LongVarBinary = 205,
 };
@@ -23,6 +27,8 @@ struct FieldDefinition {
   /// Table and column that the values come from; empty for an expression.
   QString baseTable;
   QString baseColumn;
+  /// Part of the table's key.
+  bool key = false;
   bool autoIncrement = false;
   bool nullable = true;
   /// The value may be fetched later than its row (long binaries).

@@ -127,6 +127,7 @@ FieldDefinition definitionOf(const store::ColumnInfo& column) {
   definition.definedSize = sizeOf(definition.type, column.declaredType);
   definition.baseTable = column.baseTable;
   definition.baseColumn = column.baseColumn;
+  definition.key = column.rowKey;
   definition.autoIncrement = column.autoIncrement;
   definition.nullable = !column.notNull && !column.rowKey;
   definition.mayDefer = definition.type == DataType::LongVarBinary;

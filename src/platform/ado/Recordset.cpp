@@ -1,6 +1,8 @@
 #include "ado/Recordset.h"
 
-#include "ado/RecordsetRows.h"
+#include "ado/FileRows.h"
+#include "ado/PersistedWriter.h"
+#include "ado/QueryRows.h"
 #include "ado/Translation.h"
 
 namespace ado {
@@ -11,11 +13,32 @@ Recordset::~Recordset() = default;
 
 void Recordset::Open(const QString& source, const std::shared_ptr<Connection>& connection, CursorType cursor,
                      LockType lock) {
-  if (m_rows != nullptr)
-    throw AdoError(AdoErrorNumber::OperationNotAllowed, QStringLiteral("记录集已经打开"));
+  requireClosed();
   std::ignore = required(connection);
   const bool changeable = cursor == CursorType::Keyset && lock == LockType::Optimistic;
-  m_rows = translatingErrors([&] { return std::make_unique<Rows>(*this, source, connection, changeable); });
+  m_rows =
+      translatingErrors([&] { return std::make_unique<QueryRows>(*this, source, connection, changeable); });
+}
+
+void Recordset::Open(const QString& path) {
+  requireClosed();
+  m_rows = translatingErrors([&] { return std::make_unique<FileRows>(*this, path); });
+}
+
+void Recordset::Save(const QString& path, PersistFormat format) {
+  if (format != PersistFormat::Xml) {
+    throw AdoError(AdoErrorNumber::OperationNotAllowed, QStringLiteral("记录集只能保存为 XML"));
+  }
+  translatingErrors([&] {
+    PersistedWriter writer(path, rows().definitions());
+    rows().writeRows(writer);
+    writer.finish();
+  });
+}
+
+void Recordset::requireClosed() const {
+  if (m_rows == nullptr) return;
+  throw AdoError(AdoErrorNumber::OperationNotAllowed, QStringLiteral("记录集已经打开"));
 }
 
 void Recordset::Close() {
@@ -26,7 +49,7 @@ ObjectState Recordset::State() const {
   return m_rows == nullptr ? ObjectState::Closed : ObjectState::Open;
 }
 
-Recordset::Rows& Recordset::rows() const {
+RowSource& Recordset::rows() const {
   if (m_rows == nullptr)
     throw AdoError(AdoErrorNumber::OperationNotAllowed, QStringLiteral("记录集没有打开"));
   return *m_rows;

@@ -13,8 +13,13 @@ namespace ado {
 enum class CursorType { ForwardOnly = 0, Keyset = 1 };
 enum class LockType { ReadOnly = 1, Optimistic = 3 };
 
-/// The rows of a query. Once open it holds no lock in the database: the rows are copied without their long
-/// binaries, and a long binary is fetched by its row's key when its value is asked for.
+/// Formats of Save.
+enum class PersistFormat { Xml = 1 };
+
+class RowSource;
+
+/// The rows of a query or of a file. Open on a query it holds no lock in the database: the rows are copied
+/// without their long binaries, and a long binary is fetched by its row's key when its value is asked for.
 ///
 /// Every failure is an AdoError: a bad statement, a missing connection, a name that is no column, a row that
 /// is not there.
@@ -29,6 +34,12 @@ class Recordset {
   /// changed by AddNew, Update and Delete.
   void Open(const QString& source, const std::shared_ptr<Connection>& connection,
             CursorType cursor = CursorType::ForwardOnly, LockType lock = LockType::ReadOnly);
+  /// Reads a file that Save, or another program in the same format, has written. Its rows stay in memory and
+  /// cannot be changed.
+  void Open(const QString& path);
+  /// Writes all rows to the file, a row begun by AddNew included; a file of that name is replaced when the
+  /// new one is complete, and stays as it was when the writing fails.
+  void Save(const QString& path, PersistFormat format);
   /// Gives up what was assigned and not written. Does nothing on a closed recordset.
   void Close();
   [[nodiscard]] ObjectState State() const;
@@ -57,11 +68,12 @@ class Recordset {
 
  private:
   friend class Field;
-  class Rows;
+  /// Throws AdoError when the recordset is open.
+  void requireClosed() const;
   /// Throws AdoError when the recordset is closed.
-  [[nodiscard]] Rows& rows() const;
+  [[nodiscard]] RowSource& rows() const;
 
-  std::unique_ptr<Rows> m_rows;
+  std::unique_ptr<RowSource> m_rows;
 };
 
 }  // namespace ado

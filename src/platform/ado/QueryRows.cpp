@@ -1,8 +1,9 @@
-#include "ado/RecordsetRows.h"
+#include "ado/QueryRows.h"
 
 #include <utility>
 
 #include "ado/FieldTypes.h"
+#include "ado/PersistedWriter.h"
 #include "ado/Translation.h"
 #include "store/Dialect.h"
 
@@ -26,20 +27,17 @@ QString parameters(std::size_t count) {
 
 }  // namespace
 
-Recordset::Rows::Rows(Recordset& owner, const QString& source, std::shared_ptr<Connection> connection,
-                      bool changeable)
-    : m_owner(owner), m_connection(std::move(connection)), m_changeable(changeable) {
+QueryRows::QueryRows(Recordset& owner, const QString& source, std::shared_ptr<Connection> connection,
+                     bool changeable)
+    : m_connection(std::move(connection)), m_changeable(changeable) {
   m_database = m_connection->database();
   m_query = analyse(*database(), store::translated(source, store::StatementUse::Query));
   load();
   typeExpressions();
-  m_fields.reserve(m_query.fields.size());
-  for (int i = 0; i < static_cast<int>(m_query.fields.size()); ++i) {
-    m_fields.emplace_back(m_owner, i, m_query.fields[static_cast<std::size_t>(i)]);
-  }
+  makeFields(owner);
 }
 
-void Recordset::Rows::load() {
+void QueryRows::load() {
   const std::shared_ptr<store::Statement> statement = database()->statement(m_query.sql);
   const store::StatementScope scope(*statement);
   const int columns = static_cast<int>(m_query.fields.size());
@@ -60,7 +58,7 @@ void Recordset::Rows::load() {
 }
 
 /// Only its values tell the type of an expression.
-void Recordset::Rows::typeExpressions() {
+void QueryRows::typeExpressions() {
   if (m_rowCount == 0) return;
   for (std::size_t i = 0; i < m_query.fields.size(); ++i) {
     FieldDefinition& definition = m_query.fields[i];
@@ -68,7 +66,7 @@ void Recordset::Rows::typeExpressions() {
   }
 }
 
-std::shared_ptr<store::Database> Recordset::Rows::database() const {
+std::shared_ptr<store::Database> QueryRows::database() const {
   std::shared_ptr<store::Database> open = m_database.lock();
   if (open == nullptr) {
     throw AdoError(AdoErrorNumber::ConnectionNotOpen, QStringLiteral("记录集的数据库连接已经关闭"));
@@ -76,54 +74,54 @@ std::shared_ptr<store::Database> Recordset::Rows::database() const {
   return open;
 }
 
-void Recordset::Rows::moveNext() {
+void QueryRows::moveNext() {
   if (m_adding || !m_assigned.empty()) update();
   if (atEnd()) throw AdoError(AdoErrorNumber::NoCurrentRecord, QStringLiteral("已经没有记录"));
   ++m_current;
 }
 
-Field& Recordset::Rows::field(const QString& name) {
-  for (Field& candidate : m_fields) {
-    if (candidate.Name().compare(name, Qt::CaseInsensitive) == 0) return candidate;
-  }
-  throw AdoError(AdoErrorNumber::NotInCollection, QStringLiteral("记录集中没有字段“%1”").arg(name));
-}
-
-Field& Recordset::Rows::field(int index) {
-  if (index < 0 || index >= fieldCount()) {
-    throw AdoError(AdoErrorNumber::NotInCollection, QStringLiteral("记录集中没有第 %1 个字段").arg(index));
-  }
-  return m_fields[static_cast<std::size_t>(index)];
-}
-
-std::size_t Recordset::Rows::place(std::size_t row, int column) const {
+std::size_t QueryRows::place(std::size_t row, int column) const {
   return row * m_query.fields.size() + static_cast<std::size_t>(column);
 }
 
-QVariant Recordset::Rows::value(int column) {
+QVariant QueryRows::value(int column) {
   requireRow();
   const auto assigned = m_assigned.find(column);
   if (assigned != m_assigned.end()) return assigned->second;
   if (m_adding) return {};
-  const std::size_t stored = place(m_current, column);
-  if (m_values.isLeftInDatabase(stored)) return translatingErrors([&] { return fetch(column); });
+  return storedValue(m_current, column);
+}
+
+QVariant QueryRows::storedValue(std::size_t row, int column) {
+  const std::size_t stored = place(row, column);
+  if (m_values.isLeftInDatabase(stored)) return translatingErrors([&] { return fetch(row, column); });
   const FieldDefinition& definition = m_query.fields[static_cast<std::size_t>(column)];
   if (const auto text = m_values.text(stored)) return fromStoredText(*text, definition);
   return fromStored(m_values.value(stored), definition);
 }
 
-QVariant Recordset::Rows::fetch(int column) {
+QVariant QueryRows::fetch(std::size_t row, int column) {
   const int keyColumn = m_query.keyColumns[static_cast<std::size_t>(column)];
-  const auto keyOfRow = [&](std::size_t row) {
-    const bool left = !m_deleted[row] && m_values.isLeftInDatabase(place(row, column));
-    return left ? m_values.value(place(row, keyColumn)) : QVariant();
+  const auto keyOfRow = [&](std::size_t other) {
+    const bool left = !m_deleted[other] && m_values.isLeftInDatabase(place(other, column));
+    return left ? m_values.value(place(other, keyColumn)) : QVariant();
   };
   QVariant value;
-  if (!readAhead(column).fetch(*database(), m_current, m_rowCount, keyOfRow, value)) rowGone();
+  if (!readAhead(column).fetch(*database(), row, m_rowCount, keyOfRow, value)) rowGone();
   return value;
 }
 
-ReadAhead& Recordset::Rows::readAhead(int column) {
+void QueryRows::writeRows(PersistedWriter& writer) {
+  if (!m_adding && !m_assigned.empty()) {
+    notAllowed(QStringLiteral("当前记录的修改还没有写入数据库，不能保存记录集"));
+  }
+  for (std::size_t row = 0; row < m_rowCount; ++row) {
+    if (!m_deleted[row]) writer.row([&](int column) { return storedValue(row, column); });
+  }
+  if (m_adding) writer.pendingRow([this](int column) { return value(column); });
+}
+
+ReadAhead& QueryRows::readAhead(int column) {
   const auto known = m_readAhead.find(column);
   if (known != m_readAhead.end()) return known->second;
   const FieldDefinition& definition = m_query.fields[static_cast<std::size_t>(column)];
@@ -135,7 +133,7 @@ ReadAhead& Recordset::Rows::readAhead(int column) {
   return m_readAhead.emplace(column, ReadAhead(sql)).first->second;
 }
 
-void Recordset::Rows::assign(int column, const QVariant& value) {
+void QueryRows::assign(int column, const QVariant& value) {
   requireChangeable();
   requireRow();
   const FieldDefinition& definition = m_query.fields[static_cast<std::size_t>(column)];
@@ -145,25 +143,25 @@ void Recordset::Rows::assign(int column, const QVariant& value) {
   m_assigned[column] = converted(value, definition);
 }
 
-void Recordset::Rows::requireRow() const {
+void QueryRows::requireRow() const {
   if (atEnd()) throw AdoError(AdoErrorNumber::NoCurrentRecord, QStringLiteral("没有当前记录"));
   if (!m_adding && m_deleted[m_current]) rowGone();
 }
 
-void Recordset::Rows::requireChangeable() const {
+void QueryRows::requireChangeable() const {
   if (!m_changeable) notAllowed(QStringLiteral("记录集是只读的"));
   if (m_query.table.isEmpty() || m_query.tableKey == Query::none) {
     notAllowed(QStringLiteral("记录集不是来自一个含有主键的表，不能修改"));
   }
 }
 
-void Recordset::Rows::addNew() {
+void QueryRows::addNew() {
   requireChangeable();
   if (m_adding || !m_assigned.empty()) update();
   m_adding = true;
 }
 
-void Recordset::Rows::update() {
+void QueryRows::update() {
   requireChangeable();
   requireRow();
   if (m_adding) {
@@ -174,7 +172,7 @@ void Recordset::Rows::update() {
   m_assigned.clear();
 }
 
-void Recordset::Rows::insertRow() {
+void QueryRows::insertRow() {
   QStringList columns;
   QVariantList values;
   for (const auto& [column, value] : m_assigned) {
@@ -193,7 +191,7 @@ void Recordset::Rows::insertRow() {
   keepAssigned();
 }
 
-void Recordset::Rows::changeRow() {
+void QueryRows::changeRow() {
   QStringList assignments;
   QVariantList values;
   for (const auto& [column, value] : m_assigned) {
@@ -213,7 +211,7 @@ void Recordset::Rows::changeRow() {
 }
 
 /// Long binaries go back to being read when they are asked for.
-void Recordset::Rows::keepAssigned() {
+void QueryRows::keepAssigned() {
   m_readAhead.clear();
   for (const auto& [column, value] : m_assigned) {
     const bool left = m_query.deferred(column) && value.isValid();
@@ -221,7 +219,7 @@ void Recordset::Rows::keepAssigned() {
   }
 }
 
-void Recordset::Rows::remove() {
+void QueryRows::remove() {
   requireChangeable();
   requireRow();
   m_assigned.clear();

@@ -1,0 +1,89 @@
+#include "ado/PersistedData.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "ado/AdoError.h"
+#include "ado/PersistedFormat.h"
+#include "ado/PersistedValue.h"
+
+namespace ado {
+
+namespace {
+
+[[noreturn]] void refuse(const QString& why) {
+  throw AdoError(AdoErrorNumber::OperationNotAllowed, why);
+}
+
+}  // namespace
+
+bool PersistedData::isWithin(Part part) const {
+  return std::find(m_open.begin(), m_open.end(), part) != m_open.end();
+}
+
+PersistedData::Part PersistedData::partOf(QByteArrayView space, QByteArrayView name) const {
+  if (isWithin(Part::Row)) refuse(QStringLiteral("第 %1 行含有下级记录，不能读取").arg(m_rowNumber));
+  if (space == m_rowSpace && name == m_schema.rowName()) return Part::Row;
+  if (space == persisted::rowsetSpace) {
+    if (name == "insert" && m_open.empty()) return Part::Insert;
+    if (name == "delete" && m_open.empty()) return Part::Delete;
+    if (name == "update" && m_open.empty()) return Part::Update;
+    if (name == "original" && m_open == std::vector{Part::Update}) return Part::Original;
+  }
+  refuse(QStringLiteral("记录集的数据中第 %1 行之后有不认识的元素“%2”")
+             .arg(m_rowNumber)
+             .arg(QString::fromUtf8(name)));
+}
+
+void PersistedData::startElement(QByteArrayView space, QByteArrayView name, const XmlAttributes& attributes) {
+  const Part part = partOf(space, name);
+  if (part == Part::Update) m_original.clear();
+  if (part == Part::Row) startRow(attributes);
+  m_open.push_back(part);
+}
+
+void PersistedData::endElement() {
+  m_open.pop_back();
+}
+
+void PersistedData::startRow(const XmlAttributes& attributes) {
+  ++m_rowNumber;
+  if (isWithin(Part::Delete)) return;
+  const bool changes = isWithin(Part::Update) && !isWithin(Part::Original);
+  if (changes && m_original.empty()) refuse(QStringLiteral("第 %1 行的修改没有原来的值").arg(m_rowNumber));
+  Row row = changes ? m_original : Row(m_schema.columns().size());
+  readValues(row, attributes);
+  if (isWithin(Part::Original)) {
+    m_original = std::move(row);
+  } else {
+    m_rows.push_back(std::move(row));
+  }
+}
+
+void PersistedData::readValues(Row& row, const XmlAttributes& attributes) const {
+  attributes.each([&](const XmlAttribute& attribute) {
+    if (!attribute.space.isEmpty()) return;
+    const int column = m_schema.columnOf(attribute.name);
+    if (column < 0) return;
+    const FieldDefinition& definition = m_schema.columns()[static_cast<std::size_t>(column)];
+    std::optional<QVariant> value = persistedValue(attribute.value, definition.type);
+    if (!value) {
+      refuse(QStringLiteral("第 %1 行的“%2”的值不正确：%3")
+                 .arg(m_rowNumber)
+                 .arg(definition.name, QString::fromUtf8(attribute.value.first(
+                                           std::min<qsizetype>(attribute.value.size(), 40)))));
+    }
+    row[static_cast<std::size_t>(column)] = std::move(*value);
+  });
+  setNulls(row, attributes.value(persisted::rowsetSpace, "forcenull"));
+}
+
+/// `names` are those of attributes, with blanks between them.
+void PersistedData::setNulls(Row& row, QByteArrayView names) const {
+  for (const QByteArray& name : names.toByteArray().simplified().split(' ')) {
+    const int column = m_schema.columnOf(name);
+    if (column >= 0) row[static_cast<std::size_t>(column)] = QVariant();
+  }
+}
+
+}  // namespace ado

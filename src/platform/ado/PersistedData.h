@@ -1,0 +1,48 @@
+#pragma once
+
+#include <deque>
+#include <vector>
+
+#include <QVariant>
+
+#include "ado/PersistedSchema.h"
+#include "ado/XmlParser.h"
+
+namespace ado {
+
+/// The data section of a persisted recordset: elements are told to it as they come, and it makes rows of
+/// them. Failures are AdoError that names row and column.
+class PersistedData {
+ public:
+  using Row = std::vector<QVariant>;
+
+  /// `rowSpace` is the namespace of the rows. The schema must outlive this object.
+  PersistedData(const PersistedSchema& schema, QByteArray rowSpace)
+      : m_schema(schema), m_rowSpace(std::move(rowSpace)) {}
+
+  void startElement(QByteArrayView space, QByteArrayView name, const XmlAttributes& attributes);
+  void endElement();
+
+  /// Rows that are complete and have not been taken.
+  [[nodiscard]] std::deque<Row>& rows() { return m_rows; }
+
+ private:
+  /// The elements around a row.
+  enum class Part { Insert, Update, Original, Delete, Row };
+
+  [[nodiscard]] Part partOf(QByteArrayView space, QByteArrayView name) const;
+  void startRow(const XmlAttributes& attributes);
+  void readValues(Row& row, const XmlAttributes& attributes) const;
+  void setNulls(Row& row, QByteArrayView names) const;
+  [[nodiscard]] bool isWithin(Part part) const;
+
+  const PersistedSchema& m_schema;
+  QByteArray m_rowSpace;
+  std::vector<Part> m_open;
+  /// The old row of a change.
+  Row m_original;
+  std::deque<Row> m_rows;
+  int m_rowNumber = 0;
+};
+
+}  // namespace ado

@@ -1,0 +1,134 @@
+#include "ado/PersistedReader.h"
+
+#include <optional>
+#include <sys/stat.h>
+#include <utility>
+
+#include <QFile>
+
+#include "ado/AdoError.h"
+#include "ado/PersistedData.h"
+#include "ado/PersistedFormat.h"
+#include "ado/PersistedSchema.h"
+#include "ado/XmlParser.h"
+
+namespace ado {
+
+namespace {
+
+using namespace persisted;
+
+[[noreturn]] void refuse(const QString& why) {
+  throw AdoError(AdoErrorNumber::OperationNotAllowed, why);
+}
+
+/// Reading from a pipe would wait for whoever writes into it.
+void requireFile(const QString& path) {
+  struct stat facts {};
+  if (::stat(QFile::encodeName(path).constData(), &facts) == 0 && !S_ISREG(facts.st_mode)) {
+    refuse(QStringLiteral("“%1”不是普通文件").arg(path));
+  }
+}
+
+}  // namespace
+
+/// The file, its parser, and the section that the parser is in.
+class PersistedReader::Parsing : public XmlHandler {
+ public:
+  explicit Parsing(const QString& path) : m_file(path), m_parser(*this) {
+    requireFile(path);
+    if (!m_file.open(QIODevice::ReadOnly)) {
+      refuse(QStringLiteral("无法打开文件“%1”：%2").arg(path, m_file.errorString()));
+    }
+    while (!m_data && readPiece()) continue;
+    if (!m_data) refuse(QStringLiteral("文件中没有记录集的数据，不是记录集的 XML 文件"));
+  }
+
+  void startElement(QByteArrayView space, QByteArrayView name, const XmlAttributes& attributes) override {
+    ++m_depth;
+    if (m_inData) return m_data->startElement(space, name, attributes);
+    if (m_inSchema) return m_schema.startElement(space, name, attributes);
+    if (space == schemaSpace && name == "Schema") {
+      startSchema(attributes);
+    } else if (space == rowsetSpace && name == "data") {
+      startData();
+    }
+  }
+
+  void endElement() override {
+    if (m_depth == m_sectionAt) {
+      m_inSchema = false;
+      m_inData = false;
+      m_sectionAt = 0;
+    } else if (m_inData) {
+      m_data->endElement();
+    } else if (m_inSchema) {
+      m_schema.endElement();
+    }
+    --m_depth;
+  }
+
+  [[nodiscard]] const PersistedSchema& schema() const { return m_schema; }
+
+  [[nodiscard]] bool next(std::vector<QVariant>& values) {
+    while (m_data->rows().empty()) {
+      if (!readPiece()) return false;
+    }
+    values = std::move(m_data->rows().front());
+    m_data->rows().pop_front();
+    return true;
+  }
+
+ private:
+  /// False when the whole file has been read.
+  bool readPiece() {
+    if (m_atEnd) return false;
+    const qsizetype wanted = m_parser.wanted();
+    const qint64 read = m_file.read(m_parser.room(wanted), wanted);
+    if (read < 0) refuse(QStringLiteral("无法读取文件“%1”：%2").arg(m_file.fileName(), m_file.errorString()));
+    m_atEnd = read == 0;
+    m_parser.parse(read, m_atEnd);
+    return true;
+  }
+
+  void startSchema(const XmlAttributes& attributes) {
+    if (m_data || !m_schema.rowName().isEmpty()) refuse(QStringLiteral("文件含有两个记录集，不能读取"));
+    m_rowSpace = "#" + attributes.value({}, "id").toByteArray();
+    m_inSchema = true;
+    m_sectionAt = m_depth;
+  }
+
+  void startData() {
+    if (m_data) refuse(QStringLiteral("文件含有两个记录集，不能读取"));
+    m_schema.resolve();
+    m_data.emplace(m_schema, m_rowSpace);
+    m_inData = true;
+    m_sectionAt = m_depth;
+  }
+
+  QFile m_file;
+  XmlParser m_parser;
+  bool m_atEnd = false;
+  int m_depth = 0;
+  /// The depth of the section's element.
+  int m_sectionAt = 0;
+  bool m_inSchema = false;
+  bool m_inData = false;
+  QByteArray m_rowSpace;
+  PersistedSchema m_schema;
+  std::optional<PersistedData> m_data;
+};
+
+PersistedReader::PersistedReader(const QString& path) : m_parsing(std::make_unique<Parsing>(path)) {}
+
+PersistedReader::~PersistedReader() = default;
+
+const std::vector<FieldDefinition>& PersistedReader::columns() const {
+  return m_parsing->schema().columns();
+}
+
+bool PersistedReader::next(std::vector<QVariant>& values) {
+  return m_parsing->next(values);
+}
+
+}  // namespace ado
