@@ -8,10 +8,12 @@ namespace {
 
 // A frame that paints longer than this shows what it has and goes on in the next one.
 constexpr int sliceMilliseconds = 25;
+// The photos of some pages: those around the one that is read are wanted again at another zoom.
+constexpr qsizetype photoBytes = qsizetype{8} * 1024 * 1024;
 
 }  // namespace
 
-PageTiles::PageTiles(report::Document document) : m_document(std::move(document)) {}
+PageTiles::PageTiles(report::Document document) : m_document(std::move(document)), m_pictures(photoBytes) {}
 
 void PageTiles::setPageSize(QSize page) {
   if (page == m_grid.page()) return;
@@ -42,8 +44,13 @@ bool PageTiles::draw(QPainter& painter, int index, QPoint corner, const QRect& s
       image = paint(index, tile);
       ++m_paintedInFrame;
     }
-    if (image) painter.drawImage(corner + m_grid.rect(tile).topLeft(), *image);
-    complete = complete && image != nullptr;
+    const QRect place = m_grid.rect(tile).translated(corner);
+    if (image) {
+      painter.drawImage(place.topLeft(), *image);
+    } else {
+      painter.fillRect(place, Qt::white);
+      complete = false;
+    }
   }
   return complete;
 }

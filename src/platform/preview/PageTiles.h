@@ -23,7 +23,7 @@ class PageTiles {
   /// Starts a frame in which tiles of `bytes` are seen together.
   void beginFrame(qsizetype bytes);
   /// Draws the tiles of page `index` that `seen` touches, the page's corner standing at `corner`; false when
-  /// some were put off to the next frame because this one has taken long enough.
+  /// some were put off to the next frame because this one has taken long enough: they stay white.
   [[nodiscard]] bool draw(QPainter& painter, int index, QPoint corner, const QRect& seen);
 
   [[nodiscard]] const TileCache& cache() const { return m_cache; }

@@ -252,13 +252,13 @@ qsizetype PageView::bytesSeen(int first, int last) const {
 
 void PageView::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(viewport());
-  painter.fillRect(viewport()->rect(), palette().color(QPalette::Mid));
   if (m_document.pageCount() == 0) return paintNothingToShow(painter);
   matchDevice();
   // Tiles are copied pixel by pixel: nothing may scale them, at fractional ratios neither.
   painter.scale(1 / m_ratio, 1 / m_ratio);
   const int first = m_layout.pageAt(scrolled().y());
   const int last = m_layout.lastPageAt(scrolled().y() + viewport()->height());
+  paintBackground(painter, first, last);
   m_tiles.beginFrame(bytesSeen(first, last));
   bool complete = true;
   for (int index = first; index <= last; ++index) {
@@ -271,17 +271,25 @@ void PageView::paintEvent(QPaintEvent* /*event*/) {
 }
 
 void PageView::paintNothingToShow(QPainter& painter) const {
+  painter.fillRect(viewport()->rect(), palette().color(QPalette::Mid));
   painter.setPen(palette().color(QPalette::WindowText));
   painter.drawText(viewport()->rect(), Qt::AlignCenter, QStringLiteral("没有可显示的页"));
+}
+
+void PageView::paintBackground(QPainter& painter, int first, int last) const {
+  QRegion around(seenOf(QRect()));
+  for (int index = first; index <= last; ++index) around -= deviceRect(index);
+  // The pages are not filled before they are drawn: a turn of the page costs little more than painting it.
+  for (const QRect& part : around) painter.fillRect(part, palette().color(QPalette::Mid));
 }
 
 void PageView::paintFrame(QPainter& painter, int index) const {
   const QRect page = deviceRect(index);
   const bool chosen = m_layout.columns() > 1 && index == m_current;
   const int edge = std::max(1, qRound(m_ratio)) * (chosen ? 3 : 1);
-  painter.fillRect(page.adjusted(-edge, -edge, edge, edge),
-                   palette().color(chosen ? QPalette::Highlight : QPalette::Dark));
-  painter.fillRect(page, Qt::white);
+  const QColor color = palette().color(chosen ? QPalette::Highlight : QPalette::Dark);
+  for (const QRect& part : QRegion(page.adjusted(-edge, -edge, edge, edge)) - page)
+    painter.fillRect(part, color);
 }
 
 void PageView::paintMarks(QPainter& painter, int index) const {

@@ -73,6 +73,7 @@ class PageView : public QAbstractScrollArea {
 
   void matchDevice();
   [[nodiscard]] qsizetype bytesSeen(int first, int last) const;
+  void paintBackground(QPainter& painter, int first, int last) const;
   void paintFrame(QPainter& painter, int index) const;
   void paintMarks(QPainter& painter, int index) const;
   void paintNothingToShow(QPainter& painter) const;

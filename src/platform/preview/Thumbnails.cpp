@@ -11,6 +11,8 @@ namespace {
 constexpr qsizetype photoBytes = qsizetype{2} * 1024 * 1024;
 // More than a list shows; those that were scrolled past are not painted any more.
 constexpr std::size_t mostWaiting = 32;
+// No line is painted thinner than a pixel: painted at its own size, a table would be all lines.
+constexpr int oversize = 3;
 
 }  // namespace
 
@@ -48,7 +50,9 @@ void Thumbnails::paintNext() {
 }
 
 QPixmap Thumbnails::paint(int index) {
-  QImage image = pageImage(m_document, index, (QSizeF(m_size) * m_ratio).toSize(), m_photos);
+  const QSize pixels = (QSizeF(m_size) * m_ratio).toSize();
+  QImage image = pageImage(m_document, index, pixels * oversize, m_photos)
+                     .scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
   QPainter painter(&image);
   painter.setPen(Qt::gray);
   painter.drawRect(image.rect().adjusted(0, 0, -1, -1));

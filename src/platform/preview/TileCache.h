@@ -13,7 +13,7 @@ class TileCache {
  public:
   using Key = std::pair<int, int>;  ///< Page and tile.
 
-  static constexpr qsizetype defaultBytes = qsizetype{64} * 1024 * 1024;
+  static constexpr qsizetype defaultBytes = qsizetype{32} * 1024 * 1024;
 
   TileCache() : m_tiles(defaultBytes) {}
 
