@@ -55,9 +55,9 @@ def row(what, value, limit):
     print(f"| {what} | {value} | {limit} |")
 
 
-def ratio_row(what, ours, floor, limit):
+def ratio_row(what, ours, floor, limit, digits=3):
     a, b = median(ours, "seconds"), median(floor, "seconds")
-    row(what, f"{a:.3f} s / {b:.3f} s = {a / b:.2f}", limit)
+    row(what, f"{a:.{digits}f} s / {b:.{digits}f} s = {a / b:.2f}", limit)
 
 
 def demo(directory, name, *arguments):
@@ -122,6 +122,30 @@ def measure_sign_in(directory, runs):
     ratio_row("`LoadByDate`, 1,000 employees and 22 days of 2,000,000 rows / bare loop", ours, floor, "3")
 
 
+def measure_preview(directory, cards, runs):
+    def pair(what, report, home):
+        program = BIN / "bench_preview"
+        return compare([program, what, report, home], [program, what + "_floor", report, home], runs)
+
+    ours, floor = pair("memory", "cards", cards)
+    a, b = (statistics.median(result.printed["beyond"] for result in results) for results in (ours, floor))
+    row("memory of the preview beyond the report, every page of 1,000 cards looked at / Qt's preview widget, opened",
+        f"{a:.0f} MB / {b:.0f} MB = {a / b:.2f}", "0.1")
+    row("the whole processes", f"{median(ours, 'memory'):.0f} MB / {median(floor, 'memory'):.0f} MB", "")
+    ours, floor = pair("turn", "cards", cards)
+    ratio_row("a page turn in the preview / painting that page into an image", ours, floor, "1.5", digits=4)
+    ours, floor = pair("wheel", "cards", cards)
+    beyond = (median(ours, "seconds") - median(floor, "seconds")) * 1000
+    row("a step of the wheel over kept pages, beyond copying the pixels", f"{beyond:.2f} ms", "5 ms")
+    many = demo(directory, "pages1000", "--employees", "4000", "--photo-kb", "2", "--month", "2026-10")
+    ours, floor = pair("find", "cards", many)
+    ratio_row("finding four texts in 1,000 pages of cards / in a list of the same texts", ours, floor, "3", digits=4)
+    month = demo(directory, "pages100", "--employees", "1200", "--photo-kb", "2", "--month", "2026-10")
+    subprocess.run([BIN / "bench_presence_home", month, "2026-10-01", "31"], check=True)
+    ours, floor = pair("find", "month", month)
+    ratio_row("finding four texts in 100 pages of the month / in a list of the same texts", ours, floor, "3", digits=4)
+
+
 def main():
     runs = int(sys.argv[1]) if len(sys.argv) > 1 else 7
     os.environ.setdefault("QT_QPA_PLATFORM", "offscreen")
@@ -146,6 +170,7 @@ def main():
         ratio_row("first page of the preview, 1,000 cards / 4 cards", ours, floor, "2")
         measure_month(directory, runs)
         measure_sign_in(directory, runs)
+        measure_preview(directory, cards, runs)
 
 
 if __name__ == "__main__":
