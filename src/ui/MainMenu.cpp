@@ -9,6 +9,7 @@
 
 #include "ui/DeptDialogs.h"
 #include "ui/HelpMenu.h"
+#include "ui/ImportMenu.h"
 #include "ui/ToolsMenu.h"
 #include "ui/frmMain.h"
 
@@ -42,7 +43,7 @@ constexpr std::array tree = {
     MenuEntry{L1(), L1("Opt"), u"员工(&E)"},
     MenuEntry{L1("Opt"), L1("mnuEmpDsp"), u"显示列表(&D)", method<&frmMain::mnuEmpDsp_Click>},
     MenuEntry{L1("Opt"), L1("mnuSplit1"), separatorCaption},
-    MenuEntry{L1("Opt"), L1("mnuEmpImport"), u"导入初始信息(&I)"},
+    MenuEntry{L1("Opt"), L1("mnuEmpImport"), u"导入初始信息(&I)", mnuEmpImport_Click},
     MenuEntry{L1("Opt"), L1("mnuEmpRemove"), u"删除(&R)", method<&frmMain::RemoveSelectedEmps>},
     MenuEntry{L1("Opt"), L1("mnuSplit4"), separatorCaption},
     MenuEntry{L1("Opt"), L1("mnuEmpExport"), u"导出(&O)"},
