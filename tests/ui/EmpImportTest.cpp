@@ -33,10 +33,10 @@ QByteArray widePhoto() {
   return bytes;
 }
 
-/// The head of a picture of 60,000 pixels a side.
+/// A photo whose head says that it has 60,000 pixels a side.
 QByteArray hugePhoto() {
-  return QByteArray("BM\0\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\x60\xea\0\0\x60\xea\0\0\1\0\x18\0", 30) +
-         QByteArray(64, '\0');
+  return support::TestHome::tinyJpeg().replace(QByteArray::fromHex("0800080008"),
+                                               QByteArray::fromHex("08ea60ea60"));
 }
 
 class EmpImport : public MainWindow {
