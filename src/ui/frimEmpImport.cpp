@@ -14,6 +14,7 @@
 #include "records/clsDeptSet.h"
 #include "runtime/Conversions.h"
 #include "runtime/ProgramDirectory.h"
+#include "runtime/RuntimeError.h"
 #include "ui/Controls.h"
 #include "ui/EmpNumberHint.h"
 #include "ui/ImportPhoto.h"
@@ -31,6 +32,15 @@ QString warning() {
 
 QString onlyOnce() {
   return QStringLiteral("每个文件只能保存一次，要再次保存，请重新导入这个文件。");
+}
+
+/// The value of the column. Throws runtime::RuntimeError, which calls it `what`, when it is Null.
+QVariant valueOf(ado::Recordset& row, const char* column, const QString& what) {
+  QVariant value = row.Fields(QLatin1String(column)).Value();
+  if (runtime::isNull(value)) {
+    throw runtime::RuntimeError(runtime::ErrorNumber::InvalidUseOfNull, QStringLiteral("文件中没有") + what);
+  }
+  return value;
 }
 
 QComboBox* makeDeptBox(const QFont& font) {
@@ -225,10 +235,10 @@ int frimEmpImport::LoadEmpFile(const QString& path) {
 }
 
 void frimEmpImport::ShowRow(ado::Recordset& row) {
-  txtName->setText(runtime::toText(row.Fields(QStringLiteral("ENAME")).Value()));
-  SelectDept(runtime::toInt16(row.Fields(QStringLiteral("DID")).Value()));
-  txtInputDate->setText(runtime::toText(row.Fields(QStringLiteral("ENTERDATE")).Value()));
-  savePhoto(row.Fields(QStringLiteral("HEADIMG")).Value(), TempImgPath);
+  txtName->setText(runtime::toText(valueOf(row, "ENAME", QStringLiteral("姓名"))));
+  SelectDept(runtime::toInt16(valueOf(row, "DID", QStringLiteral("部门"))));
+  txtInputDate->setText(runtime::toText(valueOf(row, "ENTERDATE", QStringLiteral("录入日期"))));
+  savePhoto(valueOf(row, "HEADIMG", QStringLiteral("照片")), TempImgPath);
   ShowPhoto();
 }
 
@@ -343,7 +353,6 @@ std::optional<QDateTime> frimEmpImport::EnterDate() {
 }
 
 int frimEmpImport::SaveEmployee() {
-  lblReason->showHint({});
   if (!CheckInput()) return Refused;
   // Before the employee object, which deletes the photo when it goes: a date can be corrected.
   const auto date = EnterDate();
@@ -374,6 +383,7 @@ void frimEmpImport::btnSave_Click() {
     lblReason->showHint(m_failure + u'。' + onlyOnce());
     dialogs::MsgBox(QStringLiteral("员工信息保存失败！"), dialogs::Exclamation, warning());
   } else if (result == Saved) {
+    lblReason->showHint({});
     dialogs::MsgBox(QStringLiteral("员工信息已成功导入！"), dialogs::Information, QStringLiteral("消息"));
     btnSave->setEnabled(false);
     if (btnNext->isEnabled()) btnNext->setFocus();
