@@ -96,13 +96,13 @@ QTime timeOfDay(QByteArrayView text) {
 std::optional<QVariant> moment(QByteArrayView text) {
   // The day that stands for none before a bare time.
   QDate date(1899, 12, 30);
-  QTime time(0, 0);
+  QTime clock(0, 0);
   const qsizetype mark = text.indexOf('T');
   const bool isTime = text.contains(':');
   if (mark >= 0 || !isTime) date = day(mark >= 0 ? text.first(mark) : text);
-  if (mark >= 0 || isTime) time = timeOfDay(text.sliced(mark + 1));
-  if (!date.isValid() || !time.isValid()) return std::nullopt;
-  return QDateTime(date, time);
+  if (mark >= 0 || isTime) clock = timeOfDay(text.sliced(mark + 1));
+  if (!date.isValid() || !clock.isValid()) return std::nullopt;
+  return QDateTime(date, clock);
 }
 
 }  // namespace
