@@ -73,6 +73,34 @@ void clsEmployee::write() const {
   row.Close();
 }
 
+bool clsEmployee::savetoXML(const QString& FileName) {
+  m_lastFailure.clear();
+  if (m_ename.isEmpty() || m_headImg.isEmpty()) return false;
+  if (m_did <= 0) return false;
+  return attempt(m_lastFailure, false, [&] {
+    writeXml(FileName);
+    return true;
+  });
+}
+
+void clsEmployee::writeXml(const QString& fileName) const {
+  const std::shared_ptr<ado::Connection> connection = clsDbConn().GetDbConn();
+  const QByteArray photo = fileContent(m_headImg.trimmed());
+  ado::Recordset row;
+  row.Open(QStringLiteral("select * from employee where 1 = 0"), connection, ado::CursorType::Keyset,
+           ado::LockType::Optimistic);
+  row.AddNew();
+  row.Fields(QStringLiteral("ENAME")).setValue(m_ename);
+  row.Fields(QStringLiteral("DID")).setValue(int{m_did});
+  row.Fields(QStringLiteral("HEADIMG")).setValue(photo);
+  row.Fields(QStringLiteral("ENTERDATE")).setValue(m_enterDate);
+  // Nobody deletes an older file before: Save replaces it, and only by a complete one.
+  row.Save(fileName, ado::PersistFormat::Xml);
+  // The row is given up: it has never been in the database.
+  row.Delete();
+  row.Close();
+}
+
 int clsEmployee::LoadByENUMBER() {
   m_lastFailure.clear();
   if (m_enumber.isEmpty()) return NotFound;

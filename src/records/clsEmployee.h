@@ -55,6 +55,9 @@ class clsEmployee {
   [[nodiscard]] bool RemoveMe();
   /// Gives itself a new barcode that no row holds; the row is written only by Add.
   [[nodiscard]] bool UpdateEBarCode();
+  /// Writes name, department, photo and date of entry to a file that EmployeeFile reads; whether it was
+  /// written. The database is not changed; a file of that name stays as it was when the writing fails.
+  [[nodiscard]] bool savetoXML(const QString& FileName);
   /// 15 random decimal digits.
   [[nodiscard]] QString CreateRandomCode();
 
@@ -66,6 +69,7 @@ class clsEmployee {
   enum class Key { Number, Barcode };
 
   void write() const;
+  void writeXml(const QString& fileName) const;
   [[nodiscard]] int load(const QString& condition, Key key);
   [[nodiscard]] QString unusedCode();
 
