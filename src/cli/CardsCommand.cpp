@@ -2,8 +2,8 @@
 
 #include "ado/Recordset.h"
 #include "cli/Database.h"
-#include "cli/OutputFile.h"
 #include "foundation/SqlText.h"
+#include "printing/OutputFile.h"
 #include "printing/SingleEmployeeInfoReport.h"
 #include "report/Pdf.h"
 #include "runtime/Conversions.h"

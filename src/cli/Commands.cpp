@@ -4,11 +4,15 @@
 #include "cli/CardsCommand.h"
 #include "cli/CheckCommand.h"
 #include "cli/DemoCommand.h"
+#include "cli/EmployeeXmlCommand.h"
+#include "cli/ExportCommand.h"
+#include "cli/ImportCommand.h"
 #include "cli/ImportRosterCommand.h"
 #include "cli/InitCommand.h"
 #include "cli/ListCommand.h"
 #include "cli/MonthCommand.h"
 #include "cli/RemoveCommand.h"
+#include "cli/ShowXmlCommand.h"
 #include "cli/SignCommand.h"
 #include "cli/TodayCommand.h"
 
@@ -23,9 +27,10 @@ std::unique_ptr<Command> make() {
 
 using Maker = std::unique_ptr<Command> (*)();
 constexpr Maker makers[] = {
-    make<InitCommand>,   make<DemoCommand>,   make<ImportRosterCommand>, make<ListCommand>,
-    make<CardsCommand>,  make<MonthCommand>,  make<SignCommand>,         make<TodayCommand>,
-    make<RemoveCommand>, make<BackupCommand>, make<CheckCommand>,
+    make<InitCommand>,        make<DemoCommand>,   make<ImportRosterCommand>, make<ImportCommand>,
+    make<EmployeeXmlCommand>, make<ExportCommand>, make<ShowXmlCommand>,      make<ListCommand>,
+    make<CardsCommand>,       make<MonthCommand>,  make<SignCommand>,         make<TodayCommand>,
+    make<RemoveCommand>,      make<BackupCommand>, make<CheckCommand>,
 };
 
 }  // namespace

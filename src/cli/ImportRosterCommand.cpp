@@ -1,8 +1,8 @@
 #include "cli/ImportRosterCommand.h"
 
 #include "cli/Database.h"
-#include "cli/OutputFile.h"
 #include "exchange/RosterCsv.h"
+#include "printing/OutputFile.h"
 #include "runtime/ReplacingFile.h"
 
 namespace cli {

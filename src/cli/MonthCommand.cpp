@@ -6,11 +6,11 @@
 
 #include "attendance/MonthLoader.h"
 #include "cli/Database.h"
-#include "cli/OutputFile.h"
 #include "exchange/MonthCsv.h"
 #include "exchange/MonthWorkbook.h"
 #include "foundation/clsSchoolArea.h"
 #include "printing/EmployeeMonthReport.h"
+#include "printing/OutputFile.h"
 #include "report/Pdf.h"
 
 namespace cli {

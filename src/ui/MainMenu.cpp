@@ -8,6 +8,7 @@
 #include <QMenuBar>
 
 #include "ui/DeptDialogs.h"
+#include "ui/ExportMenu.h"
 #include "ui/HelpMenu.h"
 #include "ui/ImportMenu.h"
 #include "ui/ToolsMenu.h"
@@ -38,7 +39,7 @@ constexpr std::array tree = {
     MenuEntry{L1("menDeptMange"), L1("mnuDeptRemove"), u"删除(&R)", method<&frmMain::RemoveSelectedDepts>},
     MenuEntry{L1("menDeptMange"), L1("mnuDeptEdit"), u"修改(&E)", mnuDeptEdit_Click},
     MenuEntry{L1("menDeptMange"), L1("mnuSplit3"), separatorCaption},
-    MenuEntry{L1("menDeptMange"), L1("mnuDeptExport"), u"导出(&O)"},
+    MenuEntry{L1("menDeptMange"), L1("mnuDeptExport"), u"导出(&O)", mnuDeptExport_Click},
 
     MenuEntry{L1(), L1("Opt"), u"员工(&E)"},
     MenuEntry{L1("Opt"), L1("mnuEmpDsp"), u"显示列表(&D)", method<&frmMain::mnuEmpDsp_Click>},
@@ -46,7 +47,7 @@ constexpr std::array tree = {
     MenuEntry{L1("Opt"), L1("mnuEmpImport"), u"导入初始信息(&I)", mnuEmpImport_Click},
     MenuEntry{L1("Opt"), L1("mnuEmpRemove"), u"删除(&R)", method<&frmMain::RemoveSelectedEmps>},
     MenuEntry{L1("Opt"), L1("mnuSplit4"), separatorCaption},
-    MenuEntry{L1("Opt"), L1("mnuEmpExport"), u"导出(&O)"},
+    MenuEntry{L1("Opt"), L1("mnuEmpExport"), u"导出(&O)", mnuEmpExport_Click},
     MenuEntry{L1("Opt"), L1("mnuEmpPrint"), u"打印签到卡(&P)", method<&frmMain::mnuEmpPrint_Click>},
 
     MenuEntry{L1(), L1("mnuAttendance"), u"考勤(&K)"},

@@ -1,4 +1,4 @@
-#include "cli/OutputFile.h"
+#include "printing/OutputFile.h"
 
 #include <sys/stat.h>
 
@@ -10,8 +10,6 @@
 #include "printing/clsLogo.h"
 #include "runtime/ProgramDirectory.h"
 #include "runtime/RuntimeError.h"
-
-namespace cli {
 
 namespace {
 
@@ -46,5 +44,3 @@ void refuseOwnFile(const QString& path) {
                                 QStringLiteral("“%1”是存放照片的位置，不能用作输出").arg(path));
   }
 }
-
-}  // namespace cli
