@@ -17,10 +17,13 @@ QByteArray bytesOf(const QVariant& value) {
   return value.toByteArray();
 }
 
-/// The value of the column in the current row; an error names the column.
+/// The value of the column in the current row; an error names the column, or what it is when there is none.
 template <typename Convert>
-auto valueOf(ado::Recordset& row, const QString& column, const Convert& convert) {
+auto valueOf(ado::Recordset& row, const QString& column, const QString& what, const Convert& convert) {
   const QVariant value = row.Fields(column).Value();
+  if (runtime::isNull(value)) {
+    throw runtime::RuntimeError(runtime::ErrorNumber::InvalidUseOfNull, QStringLiteral("文件中没有") + what);
+  }
   try {
     return convert(value);
   } catch (const runtime::RuntimeError& error) {
@@ -46,9 +49,9 @@ int EmployeeFile::read(const QString& path) {
   ado::Recordset row;
   row.Open(path);
   if (row.IsEOF()) return NoRow;
-  m_name = valueOf(row, QStringLiteral("ENAME"), runtime::toText);
-  m_department = valueOf(row, QStringLiteral("DID"), runtime::toInt16);
-  m_enterDate = valueOf(row, QStringLiteral("ENTERDATE"), runtime::toText);
-  m_photo = valueOf(row, QStringLiteral("HEADIMG"), bytesOf);
+  m_name = valueOf(row, QStringLiteral("ENAME"), QStringLiteral("姓名"), runtime::toText);
+  m_department = valueOf(row, QStringLiteral("DID"), QStringLiteral("部门"), runtime::toInt16);
+  m_enterDate = valueOf(row, QStringLiteral("ENTERDATE"), QStringLiteral("录入日期"), runtime::toText);
+  m_photo = valueOf(row, QStringLiteral("HEADIMG"), QStringLiteral("照片"), bytesOf);
   return Loaded;
 }

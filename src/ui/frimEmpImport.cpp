@@ -7,14 +7,12 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 
-#include "ado/Recordset.h"
 #include "dialogs/Dialogs.h"
 #include "foundation/Attempt.h"
 #include "graphics/WaitCursor.h"
 #include "records/clsDeptSet.h"
 #include "runtime/Conversions.h"
 #include "runtime/ProgramDirectory.h"
-#include "runtime/RuntimeError.h"
 #include "ui/Controls.h"
 #include "ui/EmpNumberHint.h"
 #include "ui/ImportPhoto.h"
@@ -32,15 +30,6 @@ QString warning() {
 
 QString onlyOnce() {
   return QStringLiteral("每个文件只能保存一次，要再次保存，请重新导入这个文件。");
-}
-
-/// The value of the column. Throws runtime::RuntimeError, which calls it `what`, when it is Null.
-QVariant valueOf(ado::Recordset& row, const char* column, const QString& what) {
-  QVariant value = row.Fields(QLatin1String(column)).Value();
-  if (runtime::isNull(value)) {
-    throw runtime::RuntimeError(runtime::ErrorNumber::InvalidUseOfNull, QStringLiteral("文件中没有") + what);
-  }
-  return value;
 }
 
 QComboBox* makeDeptBox(const QFont& font) {
@@ -218,28 +207,27 @@ void frimEmpImport::UpdateNextButton() {
 }
 
 int frimEmpImport::LoadEmpFile(const QString& path) {
-  if (path.isEmpty() || !runtime::isNormalFile(path)) {
-    m_failure = QStringLiteral("找不到文件");
-    return FileMissing;
-  }
   const graphics::WaitCursor waiting;
-  return attempt(m_failure, int{Failed}, [&] {
-    ado::Recordset row;
-    row.Open(path.trimmed());
-    const bool found = !row.IsEOF();
-    if (found) ShowRow(row);
-    txtEmpNum->clear();
-    if (!found) m_failure = QStringLiteral("文件中没有员工信息");
-    return int{found ? Loaded : NoRow};
-  });
+  EmployeeFile file;
+  int result = file.Load(path);
+  m_failure = file.lastFailure();
+  ShowValues(file);
+  if (result == EmployeeFile::Loaded) {
+    result = attempt(m_failure, int{EmployeeFile::Failed}, [&] {
+      savePhoto(*file.photo(), TempImgPath);
+      ShowPhoto();
+      return int{EmployeeFile::Loaded};
+    });
+  }
+  if (result == EmployeeFile::Loaded || result == EmployeeFile::NoRow) txtEmpNum->clear();
+  return result;
 }
 
-void frimEmpImport::ShowRow(ado::Recordset& row) {
-  txtName->setText(runtime::toText(valueOf(row, "ENAME", QStringLiteral("姓名"))));
-  SelectDept(runtime::toInt16(valueOf(row, "DID", QStringLiteral("部门"))));
-  txtInputDate->setText(runtime::toText(valueOf(row, "ENTERDATE", QStringLiteral("录入日期"))));
-  savePhoto(valueOf(row, "HEADIMG", QStringLiteral("照片")), TempImgPath);
-  ShowPhoto();
+/// Of a file that could not be read completely, what was read.
+void frimEmpImport::ShowValues(const EmployeeFile& file) {
+  if (file.name()) txtName->setText(*file.name());
+  if (file.department()) SelectDept(*file.department());
+  if (file.enterDate()) txtInputDate->setText(*file.enterDate());
 }
 
 void frimEmpImport::ShowPhoto() {
@@ -253,7 +241,8 @@ void frimEmpImport::NoteLoading(const QString& path, int result) {
   txtFile->setText(QFileInfo(path).fileName());
   txtFile->setCursorPosition(0);
   txtFile->setToolTip(path.toHtmlEscaped());
-  lblFileNote->showHint(result == Loaded ? QString() : QStringLiteral("此文件未能完整读取，请核对后再保存"));
+  lblFileNote->showHint(
+      result == EmployeeFile::Loaded ? QString() : QStringLiteral("此文件未能完整读取，请核对后再保存"));
   lblReason->showHint(m_failure);
 }
 

@@ -12,13 +12,10 @@
 #include <QPushButton>
 #include <QStringList>
 
+#include "records/EmployeeFile.h"
 #include "records/clsDept.h"
 #include "records/clsEmployee.h"
 #include "ui/HintLabel.h"
-
-namespace ado {
-class Recordset;
-}
 
 /// Shows files of one employee each, one after the other; the user checks what they hold, gives the employee
 /// a number, and saves or passes on. The photo is copied to a temporary file in the program directory; an
@@ -40,8 +37,6 @@ class frimEmpImport : public QDialog {
   void done(int result) override;
 
  private:
-  /// What came of reading a file. The controls keep what they showed before when it holds no value for them.
-  enum LoadResult : int { Loaded = 1, Failed = 0, FileMissing = -1, NoRow = -2 };
   enum SaveResult : int { Saved = 1, NotSaved = 0, Refused = -1 };
 
   void BuildWindow();
@@ -52,12 +47,14 @@ class frimEmpImport : public QDialog {
 
   void InitProgress();
   void FillDeptList();
-  /// The LoadResult of the next file, 2 when there is none.
+  /// What came of loading the next file, 2 when there is none.
   [[nodiscard]] int ShowNext();
   void ShowProgress();
   void UpdateNextButton();
+  /// Gives an EmployeeFile::LoadResult, Failed also for a photo that is none. The controls keep what they
+  /// showed before when the file holds no value for them.
   [[nodiscard]] int LoadEmpFile(const QString& path);
-  void ShowRow(ado::Recordset& row);
+  void ShowValues(const EmployeeFile& file);
   void ShowPhoto();
   void SelectDept(std::int16_t id);
   /// The department with the name in the box; number 0 when there is none.

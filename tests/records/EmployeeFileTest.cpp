@@ -92,7 +92,7 @@ TEST_F(EmployeeFiles, SayHowFarTheyCouldBeRead) {
   EXPECT_EQ(load(file, "ENAME='a' DID='2' ENTERDATE='2004-02-03' HEADIMG='ffd8'"), EmployeeFile::Loaded);
   EXPECT_EQ(file.enterDate(), QStringLiteral("2004-02-03"));
   EXPECT_EQ(load(file, "ENAME='a' DID='2' ENTERDATE='2004-02-03'"), EmployeeFile::Failed);
-  EXPECT_TRUE(file.lastFailure().contains(QStringLiteral("HEADIMG"))) << file.lastFailure().toStdString();
+  EXPECT_TRUE(file.lastFailure().contains(QStringLiteral("没有照片"))) << file.lastFailure().toStdString();
   EXPECT_EQ(file.enterDate(), QStringLiteral("2004-02-03"));
   EXPECT_FALSE(file.photo());
   EXPECT_EQ(load(file, "ENAME='b' DID='40000' ENTERDATE='2004-02-03' HEADIMG='ffd8'"), EmployeeFile::Failed);
