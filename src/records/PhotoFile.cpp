@@ -1,6 +1,10 @@
 #include "records/PhotoFile.h"
 
+#include "ado/Recordset.h"
 #include "ado/Stream.h"
+#include "foundation/Attempt.h"
+#include "foundation/SqlText.h"
+#include "foundation/clsDbConn.h"
 #include "runtime/Conversions.h"
 #include "runtime/ProgramDirectory.h"
 #include "runtime/RuntimeError.h"
@@ -43,4 +47,17 @@ QString writePhotoFile(const QString& number, const QVariant& image) {
                                     : cannotWrite(number, why));
   }
   return path;
+}
+
+bool isPhotoOfSomebody(const QString& name) {
+  const QString ending = QStringLiteral(".jpg");
+  if (!name.endsWith(ending, Qt::CaseInsensitive)) return false;
+  QString failure;
+  return attempt(failure, false, [&] {
+    ado::Recordset rows;
+    rows.Open(QStringLiteral("SELECT ENUMBER FROM Employee WHERE ENUMBER = ") +
+                  sql::quoted(name.chopped(ending.size())),
+              clsDbConn().GetDbConn());
+    return !rows.IsEOF();
+  });
 }

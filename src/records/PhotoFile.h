@@ -11,3 +11,7 @@
 /// path. Throws runtime::RuntimeError naming the employee: a number that is no plain file name, no photo
 /// (Null), a file that cannot be written in full; the last leaves no half-written file.
 QString writePhotoFile(const QString& number, const QVariant& image);
+
+/// Whether `name` is that of an employee's photo file, which goes when the employee's object does. False when
+/// the database cannot tell.
+[[nodiscard]] bool isPhotoOfSomebody(const QString& name);

@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include "ui/CardMenu.h"
 #include "ui/DeptDialogs.h"
 #include "ui/ExportMenu.h"
 #include "ui/HelpMenu.h"
@@ -28,7 +29,7 @@ void method(frmMain& window) {
 
 constexpr std::array tree = {
     MenuEntry{L1(), L1("mnuSys"), u"系统(&S)"},
-    MenuEntry{L1("mnuSys"), L1("mnuCardInfoSet"), u"签到卡信息设置(&C)"},
+    MenuEntry{L1("mnuSys"), L1("mnuCardInfoSet"), u"签到卡信息设置(&C)", mnuCardInfoSet_Click},
     MenuEntry{L1("mnuSys"), L1("mnuSplit1_1"), separatorCaption},
     MenuEntry{L1("mnuSys"), L1("mnuExit"), u"退出(&X)", method<&frmMain::mnuExit_Click>},
 

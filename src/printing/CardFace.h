@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QLabel>
+
+#include "graphics/Picture.h"
+#include "printing/CardText.h"
+
+/// A card on the screen, larger than life: what every card has alike stands on a background, unit line, memo
+/// and logo in their places. The children lblUnit, lblMemo and imgLogo are found by their names.
+class CardFace : public QWidget {
+ public:
+  CardFace();
+
+  [[nodiscard]] CardText& unit() { return *lblUnit; }
+  [[nodiscard]] CardText& memo() { return *lblMemo; }
+  /// Shows the picture in the logo's place, in its own proportions. It must not be null.
+  void setLogo(const graphics::Picture& picture);
+
+ private:
+  /// The place on the screen of a box of the card, twips.
+  [[nodiscard]] QRect onScreen(const QRectF& box) const;
+  void place(QWidget& child, const QRectF& box);
+  [[nodiscard]] QPixmap background() const;
+
+  QLabel* imgCard;
+  QLabel* imgLogo;
+  CardText* lblUnit;
+  CardText* lblMemo;
+};
