@@ -6,22 +6,26 @@ namespace ado {
 
 namespace {
 
-constexpr signed char noDigit = -1;
-constexpr signed char space = -2;
+constexpr int noDigit = -1;
+constexpr int space = -2;
 
-constexpr std::array<signed char, 256> makeDigits() {
-  std::array<signed char, 256> digits{};
+using Digits = std::array<int, 256>;
+
+constexpr int& digitAt(Digits& digits, char c) {
+  return digits[static_cast<unsigned char>(c)];
+}
+
+constexpr Digits makeDigits() {
+  Digits digits{};
   digits.fill(noDigit);
-  for (int i = 0; i < 10; ++i) digits[static_cast<std::size_t>('0' + i)] = static_cast<signed char>(i);
-  for (int i = 0; i < 6; ++i) {
-    digits[static_cast<std::size_t>('a' + i)] = static_cast<signed char>(10 + i);
-    digits[static_cast<std::size_t>('A' + i)] = static_cast<signed char>(10 + i);
-  }
-  for (const char c : {' ', '\t', '\r', '\n'}) digits[static_cast<std::size_t>(c)] = space;
+  for (char c = '0'; c <= '9'; ++c) digitAt(digits, c) = c - '0';
+  for (char c = 'a'; c <= 'f'; ++c) digitAt(digits, c) = c - 'a' + 10;
+  for (char c = 'A'; c <= 'F'; ++c) digitAt(digits, c) = c - 'A' + 10;
+  for (const char c : {' ', '\t', '\r', '\n'}) digitAt(digits, c) = space;
   return digits;
 }
 
-constexpr std::array<signed char, 256> digitOf = makeDigits();
+constexpr Digits digitOf = makeDigits();
 
 }  // namespace
 
