@@ -1,5 +1,6 @@
 #include "ado/PersistedReader.h"
 
+#include <cerrno>
 #include <optional>
 #include <sys/stat.h>
 #include <utility>
@@ -11,6 +12,7 @@
 #include "ado/PersistedFormat.h"
 #include "ado/PersistedSchema.h"
 #include "ado/XmlParser.h"
+#include "runtime/SystemWords.h"
 
 namespace ado {
 
@@ -37,8 +39,10 @@ class PersistedReader::Parsing : public XmlHandler {
  public:
   explicit Parsing(const QString& path) : m_file(path), m_parser(*this) {
     requireFile(path);
+    errno = 0;
     if (!m_file.open(QIODevice::ReadOnly)) {
-      refuse(QStringLiteral("无法打开文件“%1”：%2").arg(path, m_file.errorString()));
+      const QString why = errno == 0 ? m_file.errorString() : runtime::systemWords(errno);
+      refuse(QStringLiteral("无法打开文件“%1”：%2").arg(path, why));
     }
     while (!m_data && readPiece()) continue;
     if (!m_data) refuse(QStringLiteral("文件中没有记录集的数据，不是记录集的 XML 文件"));
