@@ -9,6 +9,8 @@
 #include <QFileInfo>
 #include <QImageReader>
 
+#include "graphics/MetafileRecord.h"
+#include "graphics/WmfPicture.h"
 #include "runtime/RuntimeError.h"
 
 namespace graphics {
@@ -22,9 +24,16 @@ constexpr qint64 largestFile = 64 * 1024 * 1024;
                               QStringLiteral("图片“%1”无法读取：%2").arg(name, reason));
 }
 
-bool isMetafile(const QByteArray& bytes) {
-  return bytes.startsWith("\xD7\xCD\xC6\x9A") || bytes.startsWith(QByteArray("\x01\x00\x09\x00", 4)) ||
-         (bytes.startsWith(QByteArray("\x01\x00\x00\x00", 4)) && bytes.mid(40, 4) == " EMF");
+bool isEmf(const QByteArray& bytes) {
+  return bytes.startsWith(QByteArray("\x01\x00\x00\x00", 4)) && bytes.mid(40, 4) == " EMF";
+}
+
+QSize measureWmf(const QByteArray& bytes, const QString& name) {
+  try {
+    return wmfSize(bytes);
+  } catch (const ShortRecord&) {
+    refuse(name, QStringLiteral("WMF 图元文件不完整"));
+  }
 }
 
 bool isAccepted(const QByteArray& format) {
@@ -78,7 +87,12 @@ void Picture::readHead(const QString& name) {
     m_size = m_jpeg->isTurned() ? m_jpeg->size.transposed() : m_jpeg->size;
     return;
   }
-  if (isMetafile(m_bytes)) refuse(name, QStringLiteral("尚不支持 WMF 和 EMF 图元文件"));
+  if (isWmf(m_bytes)) {
+    m_format = Format::Wmf;
+    m_size = measureWmf(m_bytes, name);
+    return;
+  }
+  if (isEmf(m_bytes)) refuse(name, QStringLiteral("尚不支持 EMF 图元文件"));
   QBuffer buffer(&m_bytes);
   QImageReader reader;
   if (!isAccepted(prepare(reader, buffer))) refuse(name, QStringLiteral("不是可识别的图片格式"));
@@ -88,6 +102,10 @@ void Picture::readHead(const QString& name) {
 
 QImage Picture::decode(QSize atLeast) const {
   if (isNull()) return {};
+  if (m_format == Format::Wmf) {
+    const QSize target = atLeast.isEmpty() ? m_size : m_size.scaled(atLeast, Qt::KeepAspectRatioByExpanding);
+    return drawWmf(m_bytes, target.width() < m_size.width() ? target : m_size);
+  }
   QBuffer buffer;
   buffer.setData(m_bytes);
   QImageReader reader;

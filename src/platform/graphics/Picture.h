@@ -15,7 +15,7 @@ namespace graphics {
 /// A picture as the bytes of its file. It is decoded when it is drawn, so that a report can hold thousands.
 class Picture {
  public:
-  enum class Format { None, Jpeg, Other };
+  enum class Format { None, Jpeg, Wmf, Other };
 
   Picture() = default;
   /// Reads the head of the bytes; throws runtime::RuntimeError (InvalidPicture) when they are no picture of
