@@ -96,6 +96,25 @@ TEST(Wmf, TextBitmapsAndSavedSettings) {
   EXPECT_LT(image.pixelColor(650, 500).blue(), 100);
 }
 
+TEST(Wmf, ImagesAreCutAndCombinedAndTextFillsItsGivenWidth) {
+  // Its left half is dark.
+  const QByteArray bitmap = pictureBytes("bmp", {8, 8}, Qt::blue).mid(14);
+  WmfBytes wmf = redLeft();
+  wmf.record(0x0F43, WmfBytes::wordsOf({0x20, 0xCC, 0, 8, 4, 0, 4, 50, 50, 0, 200}) + bitmap);
+  wmf.record(0x0B41, WmfBytes::wordsOf({0x46, 0x66, 8, 4, 0, 4, 50, 50, 0, 0}) + bitmap);
+  wmf.record(0x0142, WmfBytes::wordsOf({5, 0}) + bitmap).record(0x012D, {2});
+  wmf.record(0x041B, {200, 400, 150, 350}).record(0x02FB, chineseFont()).record(0x012D, {3});
+  wmf.record(0x0102, {1});
+  wmf.record(0x0A32, WmfBytes::wordsOf({60, 210, 2, 0}) + "||" + WmfBytes::wordsOf({100, 80}));
+  const QImage image = Picture(wmf.placed(400, 200), QStringLiteral("x")).decode();
+  EXPECT_EQ(image.pixelColor(610, 75), QColor(Qt::blue));
+  EXPECT_EQ(image.pixelColor(75, 75), QColor(Qt::magenta));
+  EXPECT_EQ(image.pixelColor(1150, 550).red(), 0);
+  EXPECT_GT(darkPixels(image, {630, 180, 100, 240}), 100);
+  EXPECT_EQ(darkPixels(image, {740, 180, 100, 240}), 0);
+  EXPECT_GT(darkPixels(image, {850, 180, 150, 240}), 100);
+}
+
 TEST(Wmf, AbsurdBoundsAndMissingSizesAreRefusedByName) {
   const WmfBytes wmf = redLeft();
   for (const QByteArray& bytes : {wmf.placed(32000, 32000, 1), wmf.placed(0, 200), wmf.placed(400, 200, 0),

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 #include <QFontMetricsF>
 #include <QPainterPath>
@@ -25,6 +26,23 @@ double angleTo(const QRectF& box, QPointF point) {
   const double x = (point.x() - box.center().x()) * box.height();
   const double y = (box.center().y() - point.y()) * box.width();
   return std::atan2(y, x) * 180 / M_PI;
+}
+
+double scaledSum(const std::vector<int>& advances, qsizetype count, double scale) {
+  const int sum = std::accumulate(advances.begin(), advances.begin() + count, 0);
+  return std::clamp(sum * scale, 0.0, farthest);
+}
+
+/// Where the text's cell lies around the point that it is aligned to.
+QRectF cellOf(const QFontMetricsF& metrics, double width, int alignment) {
+  using Alignment = MetafileCanvas::TextAlignment;
+  double x = 0;
+  if ((alignment & Alignment::Center) == Alignment::Right) x = -width;
+  if ((alignment & Alignment::Center) == Alignment::Center) x = -width / 2;
+  double top = 0;
+  if ((alignment & Alignment::Baseline) == Alignment::Bottom) top = -metrics.height();
+  if ((alignment & Alignment::Baseline) == Alignment::Baseline) top = -metrics.ascent();
+  return {x, top, width, metrics.height()};
 }
 
 }  // namespace
@@ -133,40 +151,50 @@ void MetafileCanvas::polygons(const std::vector<QPolygon>& polygons) {
   m_painter.drawPath(path);
 }
 
-void MetafileCanvas::text(QPoint at, const QString& text) {
+std::optional<QFont> MetafileCanvas::pixelFont() const {
   QFont font = m_state.font.font;
   const double height = std::abs(m_state.font.height * scaleY());
-  if (height < 1 || height > largestFont || text.isEmpty()) return;
+  if (height < 1 || height > largestFont) return {};
   font.setPixelSize(qRound(height));
   if (m_state.font.height > 0) {
     const double cell = QFontMetricsF(font).height();
     font.setPixelSize(std::max(1, qRound(height * height / cell)));
   }
+  return font;
+}
+
+void MetafileCanvas::text(QPoint at, const QString& text, const std::vector<int>& advances) {
+  const std::optional<QFont> font = pixelFont();
+  if (!font || text.isEmpty()) return;
   const QString shown = text.left(longestText);
-  const QFontMetricsF metrics(font);
-  const double width = metrics.horizontalAdvance(shown);
-  const int alignment = m_state.textAlignment;
-  const bool updates = (alignment & UpdatePosition) != 0;
-  double x = 0;
-  if ((alignment & Center) == Right) x = -width;
-  if ((alignment & Center) == Center) x = -width / 2;
-  double y = metrics.ascent();
-  if ((alignment & Baseline) == Bottom) y = -metrics.descent();
-  if ((alignment & Baseline) == Baseline) y = 0;
+  const bool spread = static_cast<qsizetype>(advances.size()) >= shown.size();
+  const QFontMetricsF metrics(*font);
+  const double width =
+      spread ? scaledSum(advances, shown.size(), std::abs(scaleX())) : metrics.horizontalAdvance(shown);
+  const QRectF cell = cellOf(metrics, width, m_state.textAlignment);
+  const bool updates = (m_state.textAlignment & UpdatePosition) != 0;
   m_painter.save();
   m_painter.translate(map(updates ? m_state.position : at));
   m_painter.rotate(-m_state.font.angle / 10.0);
-  m_painter.setFont(font);
-  if (m_state.opaque) {
-    m_painter.fillRect(QRectF(x, y - metrics.ascent(), width, metrics.height()), m_state.backColor);
-  }
+  m_painter.setFont(*font);
+  if (m_state.opaque) m_painter.fillRect(cell, m_state.backColor);
   m_painter.setPen(m_state.textColor);
-  m_painter.drawText(QPointF(x, y), shown);
+  const QPointF base(cell.left(), cell.top() + metrics.ascent());
+  if (spread) drawSpread(base, shown, advances);
+  if (!spread) m_painter.drawText(base, shown);
   m_painter.restore();
-  if (updates && (alignment & Center) == 0) {
-    m_state.position.rx() =
-        qRound(std::clamp(m_state.position.x() + width / scaleX(), -farthestUnit, farthestUnit));
+  if (updates && (m_state.textAlignment & Center) == 0) moveBy(cell.width());
+}
+
+void MetafileCanvas::drawSpread(QPointF at, const QString& text, const std::vector<int>& advances) {
+  for (qsizetype i = 0; i < text.size(); ++i) {
+    m_painter.drawText(at + QPointF(scaledSum(advances, i, std::abs(scaleX())), 0), text.at(i));
   }
+}
+
+void MetafileCanvas::moveBy(double width) {
+  const double x = m_state.position.x() + width / scaleX();
+  m_state.position.setX(qRound(std::clamp(x, -farthestUnit, farthestUnit)));
 }
 
 void MetafileCanvas::fill(QRect box, const QBrush& brush) {

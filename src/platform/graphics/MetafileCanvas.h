@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include <QBrush>
@@ -64,7 +65,9 @@ class MetafileCanvas {
   void arc(QRect box, QPoint start, QPoint end, Closing closing);
   void polyline(const QPolygon& points);
   void polygons(const std::vector<QPolygon>& polygons);
-  void text(QPoint at, const QString& text);
+  /// `advances`, in the units of the drawing, tell how far each unit of the text is from the next one;
+  /// without them the font does.
+  void text(QPoint at, const QString& text, const std::vector<int>& advances = {});
   void fill(QRect box, const QBrush& brush);
   /// Draws `image` over the box; negative sides mirror it.
   void picture(QRect box, const QImage& image, QPainter::CompositionMode mode);
@@ -80,6 +83,9 @@ class MetafileCanvas {
   [[nodiscard]] double scaleX() const;
   [[nodiscard]] double scaleY() const;
   void usePen();
+  [[nodiscard]] std::optional<QFont> pixelFont() const;
+  void drawSpread(QPointF at, const QString& text, const std::vector<int>& advances);
+  void moveBy(double width);
 
   QImage m_image;
   QPainter m_painter;

@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QImageReader>
 
+#include "graphics/EmfPicture.h"
 #include "graphics/MetafileRecord.h"
 #include "graphics/WmfPicture.h"
 #include "runtime/RuntimeError.h"
@@ -22,10 +23,6 @@ constexpr qint64 largestFile = 64 * 1024 * 1024;
 [[noreturn]] void refuse(const QString& name, const QString& reason) {
   throw runtime::RuntimeError(runtime::ErrorNumber::InvalidPicture,
                               QStringLiteral("图片“%1”无法读取：%2").arg(name, reason));
-}
-
-bool isEmf(const QByteArray& bytes) {
-  return bytes.startsWith(QByteArray("\x01\x00\x00\x00", 4)) && bytes.mid(40, 4) == " EMF";
 }
 
 QSize measureWmf(const QByteArray& bytes, const QString& name) {
@@ -92,7 +89,10 @@ void Picture::readHead(const QString& name) {
     m_size = measureWmf(m_bytes, name);
     return;
   }
-  if (isEmf(m_bytes)) refuse(name, QStringLiteral("尚不支持 EMF 图元文件"));
+  if (isEmf(m_bytes)) {
+    readEmf(name);
+    return;
+  }
   QBuffer buffer(&m_bytes);
   QImageReader reader;
   if (!isAccepted(prepare(reader, buffer))) refuse(name, QStringLiteral("不是可识别的图片格式"));
@@ -100,12 +100,26 @@ void Picture::readHead(const QString& name) {
   m_size = reader.size();
 }
 
+void Picture::readEmf(const QString& name) {
+  m_format = Format::Emf;
+  try {
+    const EmfDrawing drawing = convertEmf(m_bytes);
+    m_svg = drawing.svg;
+    m_size = drawing.size;
+  } catch (const EmfFailure& failure) {
+    refuse(name, failure.reason);
+  }
+}
+
+QImage Picture::decodeMetafile(QSize atLeast) const {
+  const QSize target = atLeast.isEmpty() ? m_size : m_size.scaled(atLeast, Qt::KeepAspectRatioByExpanding);
+  const QSize pixels = target.width() < m_size.width() ? target : m_size;
+  return m_format == Format::Wmf ? drawWmf(m_bytes, pixels) : drawEmf(m_svg, pixels);
+}
+
 QImage Picture::decode(QSize atLeast) const {
   if (isNull()) return {};
-  if (m_format == Format::Wmf) {
-    const QSize target = atLeast.isEmpty() ? m_size : m_size.scaled(atLeast, Qt::KeepAspectRatioByExpanding);
-    return drawWmf(m_bytes, target.width() < m_size.width() ? target : m_size);
-  }
+  if (m_format == Format::Wmf || m_format == Format::Emf) return decodeMetafile(atLeast);
   QBuffer buffer;
   buffer.setData(m_bytes);
   QImageReader reader;

@@ -15,7 +15,7 @@ namespace graphics {
 /// A picture as the bytes of its file. It is decoded when it is drawn, so that a report can hold thousands.
 class Picture {
  public:
-  enum class Format { None, Jpeg, Wmf, Other };
+  enum class Format { None, Jpeg, Wmf, Emf, Other };
 
   Picture() = default;
   /// Reads the head of the bytes; throws runtime::RuntimeError (InvalidPicture) when they are no picture of
@@ -39,8 +39,12 @@ class Picture {
  private:
   [[nodiscard]] bool isTurned() const { return m_jpeg && m_jpeg->isTurned(); }
   void readHead(const QString& name);
+  void readEmf(const QString& name);
+  [[nodiscard]] QImage decodeMetafile(QSize atLeast) const;
 
   QByteArray m_bytes;
+  /// What an enhanced metafile is drawn from.
+  QByteArray m_svg;
   QSize m_size;
   Format m_format = Format::None;
   std::optional<JpegHeader> m_jpeg;

@@ -60,6 +60,11 @@ QBrush wmfBrush(const MetafileRecord& record) {
   return {colorAt(record, 1), hatches[std::min(record.u16(3), 5)]};
 }
 
+QBrush wmfPattern(const MetafileRecord& record) {
+  const QImage pattern = wmfBitmap(record.bytesFrom(4));
+  return pattern.isNull() ? QBrush(Qt::white) : QBrush(pattern);
+}
+
 MetafileFont wmfFont(const MetafileRecord& record) {
   constexpr qsizetype longestFace = 32;
   constexpr int boldFrom = 600;

@@ -12,6 +12,7 @@ namespace {
 constexpr std::size_t mostObjects = 4096;
 constexpr int chineseCharset = 134;
 constexpr int defaultCharset = 1;
+constexpr int firstLeadByte = 0x81;
 
 QColor colorOf(const MetafileRecord& record) {
   return fromStoredColor(static_cast<int>(record.u32(0) & 0xFFFFFF));
@@ -26,6 +27,20 @@ QPolygon pointsAt(const MetafileRecord& record, qsizetype word, int count) {
 
 QRect boxAt(const MetafileRecord& record, qsizetype word) {
   return {record.pointYx(word + 2), QSize(record.i16(word + 1), record.i16(word))};
+}
+
+/// How pixels are put over those that are there, by the ternary raster operation of the published format.
+QPainter::CompositionMode modeOf(quint32 operation) {
+  switch (operation) {
+    case 0x008800C6:
+      return QPainter::RasterOp_SourceAndDestination;
+    case 0x00EE0086:
+      return QPainter::RasterOp_SourceOrDestination;
+    case 0x00660046:
+      return QPainter::RasterOp_SourceXorDestination;
+    default:
+      return QPainter::CompositionMode_SourceOver;
+  }
 }
 
 }  // namespace
@@ -107,9 +122,11 @@ bool WmfPlayer::playObject(const MetafileRecord& record) {
     case 0x02FB:
       create(wmfFont(record));
       return true;
+    case 0x0142:
+      create(wmfPattern(record));
+      return true;
     case 0x00F7:
     case 0x01F9:
-    case 0x0142:
     case 0x06FF:
       create({});
       return true;
@@ -126,24 +143,26 @@ bool WmfPlayer::playObject(const MetafileRecord& record) {
 
 void WmfPlayer::create(Object object) {
   // The first free place: the numbers by which later records select count so.
-  for (Slot& slot : m_objects) {
-    if (slot.used) continue;
-    slot = {true, std::move(object)};
+  for (std::optional<Object>& place : m_objects) {
+    if (place) continue;
+    place.emplace(std::move(object));
     return;
   }
-  if (m_objects.size() < mostObjects) m_objects.push_back({true, std::move(object)});
+  if (m_objects.size() < mostObjects) m_objects.emplace_back(std::move(object));
 }
 
 void WmfPlayer::select(int index) {
   if (index >= static_cast<int>(m_objects.size())) return;
-  const Object& object = m_objects[static_cast<std::size_t>(index)].object;
+  const std::optional<Object>& place = m_objects[static_cast<std::size_t>(index)];
+  if (!place) return;
+  const Object& object = *place;
   if (const auto* pen = std::get_if<MetafilePen>(&object)) m_canvas.state().pen = *pen;
   if (const auto* brush = std::get_if<QBrush>(&object)) m_canvas.state().brush = *brush;
   if (const auto* font = std::get_if<MetafileFont>(&object)) m_canvas.state().font = *font;
 }
 
 void WmfPlayer::remove(int index) {
-  if (index < static_cast<int>(m_objects.size())) m_objects[static_cast<std::size_t>(index)] = {};
+  if (index < static_cast<int>(m_objects.size())) m_objects[static_cast<std::size_t>(index)].reset();
 }
 
 bool WmfPlayer::playShape(const MetafileRecord& record) {
@@ -219,19 +238,37 @@ void WmfPlayer::extendedText(const MetafileRecord& record) {
   constexpr int withBox = 6;
   const int options = record.u16(3);
   const bool hasBox = (options & withBox) != 0;
-  const QString text = decoded(record.bytes(hasBox ? 16 : 8, record.u16(2)));
+  const int length = record.u16(2);
+  const qsizetype textAt = hasBox ? 16 : 8;
+  const QString text = decoded(record.bytes(textAt, length));
   if ((options & opaqueBox) != 0) {
     const QPoint from = record.pointXy(4);
     const QPoint to = record.pointXy(6);
     m_canvas.fill({from, QSize(to.x() - from.x(), to.y() - from.y())}, m_canvas.state().backColor);
   }
-  m_canvas.text(record.pointYx(0), text);
+  m_canvas.text(record.pointYx(0), text, advancesOf(record, textAt, length));
+}
+
+std::vector<int> WmfPlayer::advancesOf(const MetafileRecord& record, qsizetype textAt, int length) const {
+  const qsizetype word = (textAt + length + 1) / 2;
+  std::vector<int> advances;
+  if (record.bytesFrom(0).size() < (word + length) * 2) return advances;
+  for (int at = 0; at < length;) {
+    // Each byte has its advance, but two may be one Chinese character.
+    const bool pair = isChinese() && record.byte(textAt + at) >= firstLeadByte && at + 1 < length;
+    advances.push_back(record.i16(word + at) + (pair ? record.i16(word + at + 1) : 0));
+    at += pair ? 2 : 1;
+  }
+  return advances;
+}
+
+bool WmfPlayer::isChinese() const {
+  const int charset = m_canvas.state().font.charset;
+  return charset == chineseCharset || charset == defaultCharset;
 }
 
 QString WmfPlayer::decoded(QByteArrayView bytes) const {
-  const int charset = m_canvas.state().font.charset;
-  const bool chinese = charset == chineseCharset || charset == defaultCharset;
-  return chinese ? runtime::fromCodePage(bytes.toByteArray()) : QString::fromLatin1(bytes);
+  return isChinese() ? runtime::fromCodePage(bytes.toByteArray()) : QString::fromLatin1(bytes);
 }
 
 bool WmfPlayer::playPicture(const MetafileRecord& record) {
@@ -240,13 +277,14 @@ bool WmfPlayer::playPicture(const MetafileRecord& record) {
       fillPattern(record);
       return true;
     case 0x0940:
-      image(record, 4, 8);
+      // Its source has the size of the box.
+      image(record, {.source = {3, 2, 5, 4}, .box = 4, .bitmap = 8});
       return true;
     case 0x0B41:
-      image(record, 6, 10);
+      image(record, {.source = {5, 4, 3, 2}, .box = 6, .bitmap = 10});
       return true;
     case 0x0F43:
-      image(record, 7, 11);
+      image(record, {.source = {6, 5, 4, 3}, .box = 7, .bitmap = 11});
       return true;
     default:
       return false;
@@ -264,15 +302,16 @@ void WmfPlayer::fillPattern(const MetafileRecord& record) {
   if (operation == white) m_canvas.fill(box, Qt::white);
 }
 
-void WmfPlayer::image(const MetafileRecord& record, qsizetype box, qsizetype bitmapAt) {
-  constexpr quint32 sourceAnd = 0x008800C6;
-  constexpr quint32 sourceOr = 0x00EE0086;
+void WmfPlayer::image(const MetafileRecord& record, const ImageWords& words) {
+  constexpr quint32 sourceInverted = 0x00330008;
+  QImage bitmap = wmfBitmap(record.bytesFrom(words.bitmap * 2));
+  if (bitmap.isNull()) return;
+  const auto [x, y, width, height] = words.source;
+  const QRect source(record.i16(x), record.i16(y), record.i16(width), record.i16(height));
+  if (bitmap.rect().contains(source) && !source.isEmpty()) bitmap = bitmap.copy(source);
   const quint32 operation = record.u32(0);
-  auto mode = QPainter::CompositionMode_SourceOver;
-  if (operation == sourceAnd) mode = QPainter::RasterOp_SourceAndDestination;
-  if (operation == sourceOr) mode = QPainter::RasterOp_SourceOrDestination;
-  const QImage bitmap = wmfBitmap(record.bytesFrom(bitmapAt * 2));
-  if (!bitmap.isNull()) m_canvas.picture(boxAt(record, box), bitmap, mode);
+  if (operation == sourceInverted) bitmap.invertPixels();
+  m_canvas.picture(boxAt(record, words.box), bitmap, modeOf(operation));
 }
 
 }  // namespace graphics

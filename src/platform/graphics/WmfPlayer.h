@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <optional>
 #include <variant>
 #include <vector>
 
@@ -19,11 +21,15 @@ class WmfPlayer {
   [[nodiscard]] QImage finish() { return m_canvas.finish(); }
 
  private:
-  /// A palette, region or pattern takes its place in the table without being drawn with.
+  /// A palette, region or old pattern takes its place in the table without being drawn with.
   using Object = std::variant<std::monostate, MetafilePen, QBrush, MetafileFont>;
-  struct Slot {
-    bool used = false;
-    Object object;
+
+  /// Where a record keeps what it says of an image, in words.
+  struct ImageWords {
+    /// Of x, y, width and height.
+    std::array<qsizetype, 4> source;
+    qsizetype box;
+    qsizetype bitmap;
   };
 
   bool playSetting(const MetafileRecord& record);
@@ -40,11 +46,15 @@ class WmfPlayer {
   void polyPolygon(const MetafileRecord& record);
   void extendedText(const MetafileRecord& record);
   void fillPattern(const MetafileRecord& record);
+  /// The list of advances behind a text, one a character; empty when the record has none.
+  [[nodiscard]] std::vector<int> advancesOf(const MetafileRecord& record, qsizetype textAt, int length) const;
+  [[nodiscard]] bool isChinese() const;
   [[nodiscard]] QString decoded(QByteArrayView bytes) const;
-  void image(const MetafileRecord& record, qsizetype boxAt, qsizetype bitmapAt);
+  void image(const MetafileRecord& record, const ImageWords& words);
 
   MetafileCanvas m_canvas;
-  std::vector<Slot> m_objects;
+  /// Nothing in a free place.
+  std::vector<std::optional<Object>> m_objects;
 };
 
 }  // namespace graphics
