@@ -15,7 +15,9 @@ QString cannotWrite(const QString& number, const QString& why) {
   return QStringLiteral("编号为[%1]的员工的照片无法写入：%2").arg(number, why);
 }
 
-void save(const QVariant& image, const QString& path) {
+}  // namespace
+
+void savePhoto(const QVariant& image, const QString& path) {
   ado::Stream stream;
   stream.Mode = ado::ConnectMode::ReadWrite;
   stream.Type = ado::StreamType::Binary;
@@ -24,8 +26,6 @@ void save(const QVariant& image, const QString& path) {
   stream.SaveToFile(path, ado::SaveOptions::CreateOverWrite);
   stream.Close();
 }
-
-}  // namespace
 
 QString photoFile(const QString& number) {
   if (!runtime::isPlainFileName(number)) {
@@ -38,7 +38,7 @@ QString photoFile(const QString& number) {
 QString writePhotoFile(const QString& number, const QVariant& image) {
   QString path = photoFile(number);
   try {
-    save(image, path);
+    savePhoto(image, path);
   } catch (const runtime::RuntimeError& error) {
     const QString& why = error.description();
     throw runtime::RuntimeError(error.number(),

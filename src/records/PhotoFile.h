@@ -7,6 +7,10 @@
 /// runtime::RuntimeError naming the employee when the number is no plain file name.
 [[nodiscard]] QString photoFile(const QString& number);
 
+/// Writes `image`, the value of a photo column, over the file at `path`. Throws runtime::RuntimeError when it
+/// is Null or the file cannot be written in full.
+void savePhoto(const QVariant& image, const QString& path);
+
 /// Writes `image`, the value of an employee's photo column, over the employee's photo file and returns its
 /// path. Throws runtime::RuntimeError naming the employee: a number that is no plain file name, no photo
 /// (Null), a file that cannot be written in full; the last leaves no half-written file.

@@ -1,6 +1,5 @@
 #include "ui/ImportPhoto.h"
 
-#include "ado/Stream.h"
 #include "graphics/Picture.h"
 #include "runtime/RuntimeError.h"
 
@@ -11,14 +10,4 @@ QImage photoAt(const QString& path, QSize room) {
     throw runtime::RuntimeError(runtime::ErrorNumber::InvalidPicture, QStringLiteral("照片已损坏，无法显示"));
   }
   return image.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-}
-
-void savePhoto(const QVariant& image, const QString& path) {
-  ado::Stream stream;
-  stream.Mode = ado::ConnectMode::ReadWrite;
-  stream.Type = ado::StreamType::Binary;
-  stream.Open();
-  stream.Write(image);
-  stream.SaveToFile(path, ado::SaveOptions::CreateOverWrite);
-  stream.Close();
 }

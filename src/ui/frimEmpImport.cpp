@@ -10,6 +10,7 @@
 #include "dialogs/Dialogs.h"
 #include "foundation/Attempt.h"
 #include "graphics/WaitCursor.h"
+#include "records/PhotoFile.h"
 #include "records/clsDeptSet.h"
 #include "runtime/Conversions.h"
 #include "runtime/ProgramDirectory.h"
