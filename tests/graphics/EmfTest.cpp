@@ -3,6 +3,7 @@
 
 #include <QScopeGuard>
 
+#include "DarkPixels.h"
 #include "EmfBytes.h"
 #include "graphics/Picture.h"
 #include "runtime/RuntimeError.h"
@@ -39,14 +40,6 @@ QString errorOf(const QByteArray& bytes) {
     return error.description();
   }
   return {};
-}
-
-int darkPixels(const QImage& image, const QRect& in) {
-  int dark = 0;
-  for (int y = in.top(); y <= in.bottom(); ++y) {
-    for (int x = in.left(); x <= in.right(); ++x) dark += qGray(image.pixel(x, y)) < 100 ? 1 : 0;
-  }
-  return dark;
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 #include <random>
 
+#include "DarkPixels.h"
 #include "PictureBytes.h"
 #include "WmfBytes.h"
 #include "graphics/Picture.h"
@@ -60,14 +61,6 @@ QString errorOf(const QByteArray& bytes) {
     return error.description();
   }
   return {};
-}
-
-int darkPixels(const QImage& image, const QRect& in) {
-  int dark = 0;
-  for (int y = in.top(); y <= in.bottom(); ++y) {
-    for (int x = in.left(); x <= in.right(); ++x) dark += qGray(image.pixel(x, y)) < 100 ? 1 : 0;
-  }
-  return dark;
 }
 
 }  // namespace
