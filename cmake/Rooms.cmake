@@ -25,6 +25,7 @@ function(room name)
   target_include_directories(room_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/src/platform)
   list(TRANSFORM ARG_ROOMS PREPEND room_)
   target_link_libraries(room_${name} PUBLIC flags Qt6::Core ${ARG_ROOMS} ${ARG_LIBS})
+  precompiled(room_${name})
 endfunction()
 
 # program(NAME [ROOMS room...] [LIBS library...]): an executable made of the folder's main.cpp alone.
@@ -51,6 +52,7 @@ function(room_test name)
   target_compile_definitions(test_${name} PRIVATE TEST_DATA_DIR="${PROJECT_SOURCE_DIR}/tests/data"
                                                   PROGRAM_DIR="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
   target_link_libraries(test_${name} PRIVATE ${ARG_ROOMS} ${ARG_LIBS} test_main_${ARG_MAIN} GTest::gtest)
+  precompiled(test_${name} TEST)
   gtest_discover_tests(test_${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
                        PROPERTIES TIMEOUT 120 LABELS ${name})
 endfunction()
