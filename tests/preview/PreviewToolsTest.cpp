@@ -99,6 +99,25 @@ TEST_F(PreviewToolsTest, PageBoxIsReachedByAKey) {
   EXPECT_TRUE(view->hasFocus());
 }
 
+TEST_F(PreviewToolsTest, APageThatIsTypedAndNotEnteredIsForgotten) {
+  openSample(12);
+  press(Qt::Key_G, Qt::ControlModifier);
+  QTest::keyClicks(pageBox, QStringLiteral("7"));
+  QTest::keyClick(pageBox, Qt::Key_Escape);
+  EXPECT_EQ(pageBox->text(), QStringLiteral("1 / 12"));
+  EXPECT_TRUE(window->isVisible()) << "Escape leaves the box first";
+  EXPECT_TRUE(view->hasFocus());
+}
+
+TEST_F(PreviewToolsTest, TheNarrowestWindowStillHasThePageBox) {
+  openSample(12);
+  window->resize(1, 400);
+  QTest::qWait(0);
+  EXPECT_TRUE(pageBox->isVisible());
+  EXPECT_LE(pageBox->mapTo(window.get(), pageBox->rect().bottomRight()).x(), window->width());
+  EXPECT_LT(window->width(), toolbar->sizeHint().width()) << "the rest of the tools may go into the menu";
+}
+
 TEST_F(PreviewToolsTest, SeveralPagesAreShownAndOneIsOpenedFromThem) {
   openSample(30);
   use(PreviewToolbar::ManyPages);

@@ -7,6 +7,7 @@ namespace preview {
 
 namespace {
 
+constexpr int smallestTextWidth = 120;
 constexpr int textWidth = 260;
 constexpr int longestText = 200;
 
@@ -18,6 +19,7 @@ FindBar::FindBar(QWidget* parent) : QWidget(parent), m_text(new QLineEdit(this))
   m_text->setPlaceholderText(QStringLiteral("姓名、编号或其他文字"));
   m_text->setAccessibleName(QStringLiteral("查找"));
   m_text->setClearButtonEnabled(true);
+  m_text->setMinimumWidth(smallestTextWidth);
   m_text->setMaximumWidth(textWidth);
   m_text->setMaxLength(longestText);
   m_found->setObjectName(QStringLiteral("lblFound"));

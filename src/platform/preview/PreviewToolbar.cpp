@@ -4,6 +4,7 @@
 #include <array>
 
 #include <QRegularExpression>
+#include <QStyle>
 #include <QToolButton>
 
 #include "preview/ToolIcon.h"
@@ -35,6 +36,20 @@ PreviewToolbar::PreviewToolbar(const report::Toolbar& texts, QWidget* parent) : 
     }
   }
   addTool(SavePdf, {QStringLiteral("存为PDF"), QStringLiteral("存为PDF")});
+  // A window narrower than that would hide the boxes, which keys lead to and no menu can hold.
+  setMinimumWidth(widthUpTo(PageBox));
+}
+
+int PreviewToolbar::widthUpTo(Place last) const {
+  const int spacing = style()->pixelMetric(QStyle::PM_ToolBarItemSpacing, nullptr, this);
+  const int edges = style()->pixelMetric(QStyle::PM_ToolBarItemMargin, nullptr, this) +
+                    style()->pixelMetric(QStyle::PM_ToolBarFrameWidth, nullptr, this);
+  int width = 2 * edges + style()->pixelMetric(QStyle::PM_ToolBarExtensionExtent, nullptr, this);
+  for (int index = 0; index <= last; ++index) {
+    const QWidget* item = widgetForAction(actions().at(index));
+    width += item->sizeHint().expandedTo(item->minimumSize()).boundedTo(item->maximumSize()).width() + spacing;
+  }
+  return width;
 }
 
 void PreviewToolbar::addTool(int index, const report::Tool& texts) {
@@ -58,6 +73,10 @@ void PreviewToolbar::addZoomBox() {
   m_zoom->setMaxVisibleItems(static_cast<int>(zoomList().size()));
   // Rolling the wheel over the box on the way to the pages must not change the zoom.
   m_zoom->setFocusPolicy(Qt::TabFocus);
+  // A zoom that is no entry is shown as placeholder, and is no less chosen than the others.
+  QPalette colours = m_zoom->palette();
+  colours.setBrush(QPalette::PlaceholderText, colours.buttonText());
+  m_zoom->setPalette(colours);
   for (const Zoom& zoom : zoomList()) m_zoom->addItem(zoomText(zoom));
   connect(m_zoom, &QComboBox::activated, this, [this](int index) { emit zoomChosen(zoomList().at(index)); });
   addWidget(m_zoom)->setEnabled(false);
@@ -71,6 +90,7 @@ void PreviewToolbar::addPageBox() {
   m_page->setAlignment(Qt::AlignCenter);
   m_page->setFixedWidth(m_page->fontMetrics().horizontalAdvance(QStringLiteral("0000 / 0000")));
   connect(m_page, &QLineEdit::returnPressed, this, [this] { emit pageEntered(m_page->text()); });
+  connect(m_page, &QLineEdit::editingFinished, this, [this] { m_page->setText(m_shownPage); });
   addWidget(m_page)->setEnabled(false);
 }
 
@@ -84,7 +104,8 @@ void PreviewToolbar::showZoom(const Zoom& zoom) {
 }
 
 void PreviewToolbar::showPage(int current, int count) {
-  m_page->setText(QStringLiteral("%1 / %2").arg(count == 0 ? 0 : current + 1).arg(count));
+  m_shownPage = QStringLiteral("%1 / %2").arg(count == 0 ? 0 : current + 1).arg(count);
+  m_page->setText(m_shownPage);
 }
 
 void PreviewToolbar::editPage() {

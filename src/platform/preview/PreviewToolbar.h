@@ -46,8 +46,9 @@ class PreviewToolbar : public QToolBar {
   void showZoom(const Zoom& zoom);
   /// Shows that page `current` (from 0) of `count` is looked at.
   void showPage(int current, int count);
-  /// Lets the user type a page.
+  /// Lets the user type a page. What was typed and not entered gives way to the page that is shown.
   void editPage();
+  [[nodiscard]] bool isEditingPage() const { return m_page->hasFocus(); }
 
  signals:
   void zoomChosen(const preview::Zoom& zoom);
@@ -58,9 +59,11 @@ class PreviewToolbar : public QToolBar {
   void addTool(int index, const report::Tool& texts);
   void addZoomBox();
   void addPageBox();
+  [[nodiscard]] int widthUpTo(Place last) const;
 
   QComboBox* m_zoom = nullptr;
   QLineEdit* m_page = nullptr;
+  QString m_shownPage;
 };
 
 /// The page that a text of the page box means, from 0 and never beyond the last: "3", "3 / 12" and full-width

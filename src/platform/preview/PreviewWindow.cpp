@@ -37,8 +37,8 @@ class PreviewWindow::Parts {
   Parts(PreviewWindow& window, report::Document document, const report::Toolbar& texts,
         std::unique_ptr<Printers> printers);
 
-  /// Whether there was something to close before the window.
-  bool closeFindBar();
+  /// Leaves the page box or closes the find bar; whether there was something to do before closing the window.
+  bool escape();
 
  private:
   void arrange();
@@ -237,8 +237,6 @@ void PreviewWindow::Parts::visit(int page) {
 void PreviewWindow::Parts::goToText(const QString& text) {
   const int page = pageOfText(text, m_pages);
   if (page >= 0) visit(page);
-  // Also when nothing changed: what was typed gives way to the page that is shown.
-  showState();
   m_view->setFocus();
 }
 
@@ -264,7 +262,11 @@ void PreviewWindow::Parts::copyPage() {
                      QStringLiteral("第 %1 页已拷贝为图片和文字").arg(page + 1), button);
 }
 
-bool PreviewWindow::Parts::closeFindBar() {
+bool PreviewWindow::Parts::escape() {
+  if (m_toolbar->isEditingPage()) {
+    m_view->setFocus();
+    return true;
+  }
   if (!m_find.isOpen()) return false;
   m_find.close();
   return true;
@@ -281,7 +283,7 @@ PreviewWindow::PreviewWindow(report::Document document, const report::Toolbar& t
 PreviewWindow::~PreviewWindow() = default;
 
 void PreviewWindow::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Escape && m_parts->closeFindBar()) return;
+  if (event->key() == Qt::Key_Escape && m_parts->escape()) return;
   QDialog::keyPressEvent(event);
 }
 

@@ -26,7 +26,7 @@ class PreviewWindow : public QDialog {
   ~PreviewWindow() override;
 
  protected:
-  /// Escape closes the find bar first, then the window.
+  /// Escape leaves the page box or closes the find bar first, then the window.
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
