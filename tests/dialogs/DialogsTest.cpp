@@ -139,3 +139,17 @@ TEST_F(Dialogs, FontBoxKeepsHalfPoints) {
   EXPECT_EQ(chosen->size, 26.5);
   EXPECT_FALSE(chosen->bold);
 }
+
+TEST_F(Dialogs, FontBoxKeepsAFamilyThatTheSystemLacks) {
+  whenShown<QFontDialog>([](QFontDialog& window) {
+    QFont font = window.currentFont();
+    EXPECT_NE(font.family(), QStringLiteral("没有的字体"));
+    font.setPointSize(30);
+    window.setCurrentFont(font);
+    window.accept();
+  });
+  const auto chosen = dialogs::chooseFont({QStringLiteral("没有的字体"), 1e300, true, false});
+  ASSERT_TRUE(chosen);
+  EXPECT_EQ(chosen->name, QStringLiteral("没有的字体"));
+  EXPECT_EQ(chosen->size, 30);
+}

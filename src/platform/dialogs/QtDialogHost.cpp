@@ -1,5 +1,7 @@
 #include "dialogs/QtDialogHost.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QColorDialog>
 #include <QDir>
@@ -12,6 +14,10 @@
 namespace dialogs {
 
 namespace {
+
+// Points. The font window computes with sizes far beyond that until they overflow.
+constexpr double largestSize = 2000;
+constexpr int inputWidth = 400;
 
 QMessageBox::Icon iconOf(int style) {
   switch (style & (Critical | Question | Information)) {
@@ -85,6 +91,7 @@ std::optional<QString> QtDialogHost::input(const InputBox& box) {
   window.setTextValue(box.defaultText);
   window.setOkButtonText(QStringLiteral("确定"));
   window.setCancelButtonText(QStringLiteral("取消"));
+  window.resize(window.sizeHint().expandedTo({inputWidth, 0}));
   if (window.exec() != QDialog::Accepted) return std::nullopt;
   return window.textValue();
 }
@@ -111,17 +118,24 @@ std::optional<QString> QtDialogHost::folder(const FolderBox& box) {
 
 std::optional<FontBox> QtDialogHost::font(const FontBox& box) {
   QFont font(box.name);
-  if (box.size > 0) font.setPointSizeF(box.size);
+  if (box.size > 0) font.setPointSizeF(std::min(box.size, largestSize));
   font.setBold(box.bold);
   font.setItalic(box.italic);
   QFontDialog window(font, QApplication::activeWindow());
-  // The window rounds half points and drops styles that the family lacks: what the user leaves alone stays.
+  // The window rounds half points, and proposes another family and style where the system lacks those: what
+  // the user leaves alone stays.
   const QFont proposed = window.currentFont();
   if (window.exec() != QDialog::Accepted) return std::nullopt;
   const QFont chosen = window.selectedFont();
   if (chosen == proposed) return box;
-  const bool sameSize = chosen.pointSizeF() == proposed.pointSizeF();
-  return FontBox{chosen.family(), sameSize ? box.size : chosen.pointSizeF(), chosen.bold(), chosen.italic()};
+  FontBox result{chosen.family(), chosen.pointSizeF(), chosen.bold(), chosen.italic()};
+  if (chosen.pointSizeF() == proposed.pointSizeF()) result.size = box.size;
+  if (chosen.family() == proposed.family()) {
+    result.name = box.name;
+    if (chosen.bold() == proposed.bold()) result.bold = box.bold;
+    if (chosen.italic() == proposed.italic()) result.italic = box.italic;
+  }
+  return result;
 }
 
 std::optional<ColorBox> QtDialogHost::color(const ColorBox& box) {
