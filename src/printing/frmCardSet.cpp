@@ -1,6 +1,7 @@
 #include "printing/frmCardSet.h"
 
 #include <cmath>
+#include <tuple>
 
 #include <QFileInfo>
 #include <QGridLayout>
@@ -113,7 +114,6 @@ void frmCardSet::BuildWindow() {
 QPushButton* frmCardSet::button(const char* name, const QString& caption, void (frmCardSet::*handler)()) {
   auto* made = new QPushButton(caption);
   made->setObjectName(QLatin1String(name));
-  made->setAutoDefault(false);
   connect(made, &QPushButton::clicked, this, [this, handler] {
     lblFailure->clear();
     (this->*handler)();
@@ -186,10 +186,10 @@ void frmCardSet::AskFont(const Line& line) {
   const auto chosen = dialogs::chooseFont(
       {m_style.GetFont(), m_style.GetSize().toDouble(), m_style.GetBold(), m_style.GetItalic()});
   if (!chosen) return;
-  const int size = static_cast<int>(std::nearbyint(chosen->size));
+  const double size = std::nearbyint(chosen->size);
   bool stored = true;
   if (!chosen->name.trimmed().isEmpty()) stored = m_style.SetFont(chosen->name.trimmed());
-  if (size > 0) stored = m_style.SetSize(QString::number(size)) && stored;
+  if (size > 0 && std::isfinite(size)) stored = m_style.SetSize(QString::number(size, 'f', 0)) && stored;
   stored = m_style.SetBold(chosen->bold) && stored;
   stored = m_style.SetItalic(chosen->italic) && stored;
   Tell(stored, QStringLiteral("字体"));
@@ -242,6 +242,15 @@ void frmCardSet::btnUnitLogo_Click() {
   }
 }
 
+bool frmCardSet::StoreLogo(const QString& path) {
+  clsLogo logo;
+  const QString before = logo.GetPath();
+  if (logo.SetPath(path) && logo.GetPath() == path) return true;
+  // A path that does not come back whole would leave the card without the logo that it has.
+  std::ignore = logo.SetPath(before);
+  return false;
+}
+
 void frmCardSet::TakeLogo(const QString& path) {
   const QString name = QFileInfo(path).fileName();
   if (logo::isProgramFile(name)) {
@@ -253,6 +262,6 @@ void frmCardSet::TakeLogo(const QString& path) {
     return;
   }
   const graphics::PicturePointer picture = logo::read(path);
-  Tell(clsLogo().SetPath(logo::keep(*picture, name)), QStringLiteral("标志图片"));
+  Tell(StoreLogo(logo::keep(*picture, name)), QStringLiteral("标志图片"));
   ShowLogo();
 }

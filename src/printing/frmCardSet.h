@@ -46,6 +46,8 @@ class frmCardSet : public QDialog {
   void ShowStored(const Line& line);
   void ShowLogo();
   void TakeLogo(const QString& path);
+  /// Whether the settings now hold the path; they hold the former one when they cannot.
+  [[nodiscard]] static bool StoreLogo(const QString& path);
   /// Says in the dialog whether a choice was stored.
   void Tell(bool stored, const QString& what);
 

@@ -130,3 +130,16 @@ TEST_F(CardSet, SaysWhatCouldNotBeStored) {
   }
   EXPECT_EQ(look(form, "lblMemo").caption, stored("MEMO").GetName()) << "the card prints what is stored";
 }
+
+TEST_F(CardSet, ALogoWhosePathCannotBeStoredLeavesTheFormerOne) {
+  frmCardSet form;
+  const QByteArray picture = pictureBytes("png", {40, 40});
+  chooseLogo(form, picked("校徽.bmp", picture));
+  EXPECT_TRUE(text(form, "lblFailure").isEmpty());
+  const QByteArray tooLong(240, 'l');
+  for (const QByteArray& name : {QByteArray("☺.bmp"), QByteArray(tooLong + ".bmp")}) {
+    chooseLogo(form, picked(name, picture));
+    EXPECT_TRUE(text(form, "lblFailure").contains(QStringLiteral("未能保存"))) << name.constData();
+    EXPECT_EQ(clsLogo().GetPath(), home.file(QStringLiteral("校徽.bmp"))) << "the former logo stays";
+  }
+}
