@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QLibraryInfo>
+#include <QLocale>
 #include <QTranslator>
 
 #include "graphics/Fonts.h"
@@ -30,7 +31,23 @@ bool wantsTextOnly(int argc, char** argv) {
   });
 }
 
+/// What Qt's own translation lacks.
+class MissingWords : public QTranslator {
+ public:
+  using QTranslator::QTranslator;
+
+  QString translate(const char* context, const char* text, const char* comment, int count) const override {
+    const bool isFolder = QByteArrayView(context) == "QAbstractFileIconProvider" &&
+                          (QByteArrayView(text) == "Folder" || QByteArrayView(text) == "File Folder");
+    return isFolder ? QStringLiteral("文件夹") : QTranslator::translate(context, text, comment, count);
+  }
+  [[nodiscard]] bool isEmpty() const override { return false; }
+};
+
 void useChinese(QCoreApplication& application) {
+  // Dates and kinds of files in the file boxes speak the language of everything else.
+  QLocale::setDefault(QLocale(QLocale::Chinese, QLocale::China));
+  QCoreApplication::installTranslator(new MissingWords(&application));
   auto* translator = new QTranslator(&application);
   const QString directory = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
   if (translator->load(QStringLiteral("qtbase_zh_CN"), directory)) application.installTranslator(translator);
