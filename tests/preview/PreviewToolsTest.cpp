@@ -69,6 +69,14 @@ TEST_F(PreviewToolsTest, ContentsGoToPagesAndFollow) {
   EXPECT_FALSE(isChecked(PreviewToolbar::Contents));
 }
 
+TEST_F(PreviewToolsTest, ContentsOpenOnThePageLookedAt) {
+  openSample(300);
+  press(Qt::Key_End, Qt::ControlModifier);
+  use(PreviewToolbar::Contents);
+  QTest::qWait(50);
+  EXPECT_TRUE(contents->viewport()->rect().contains(contents->visualRect(contents->currentIndex())));
+}
+
 TEST_F(PreviewToolsTest, BackAndForwardGoThroughTheVisitedPages) {
   openSample(12);
   pageBox->setText(QStringLiteral("9"));

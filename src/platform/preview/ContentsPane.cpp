@@ -24,6 +24,12 @@ void ContentsPane::showCurrent(int page) {
   setCurrentIndex(m_model->index(page));
 }
 
+void ContentsPane::resizeEvent(QResizeEvent* event) {
+  QListView::resizeEvent(event);
+  // A pane that was hidden gets its size after it has been shown, and could not scroll before.
+  scrollTo(currentIndex());
+}
+
 void ContentsPane::paintEvent(QPaintEvent* event) {
   m_model->setDevicePixelRatio(devicePixelRatioF());
   QListView::paintEvent(event);

@@ -22,6 +22,7 @@ class ContentsPane : public QListView {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   ContentsModel* m_model;

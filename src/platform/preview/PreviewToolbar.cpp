@@ -17,6 +17,8 @@ constexpr std::array separators{1, 3, 5, 7, 10, 14, 18};
 constexpr std::array switches{PreviewToolbar::Contents, PreviewToolbar::SinglePage,
                               PreviewToolbar::ManyPages};
 constexpr int iconSide = 22;
+/// Pixels between the frame and the text of a line edit, the cursor among them.
+constexpr int pageMargin = 4;
 
 }  // namespace
 
@@ -47,7 +49,8 @@ int PreviewToolbar::widthUpTo(Place last) const {
   int width = 2 * edges + style()->pixelMetric(QStyle::PM_ToolBarExtensionExtent, nullptr, this);
   for (int index = 0; index <= last; ++index) {
     const QWidget* item = widgetForAction(actions().at(index));
-    width += item->sizeHint().expandedTo(item->minimumSize()).boundedTo(item->maximumSize()).width() + spacing;
+    width +=
+        item->sizeHint().expandedTo(item->minimumSize()).boundedTo(item->maximumSize()).width() + spacing;
   }
   return width;
 }
@@ -88,7 +91,9 @@ void PreviewToolbar::addPageBox() {
   m_page->setToolTip(QStringLiteral("页码，按回车键转到该页"));
   m_page->setAccessibleName(QStringLiteral("页码"));
   m_page->setAlignment(Qt::AlignCenter);
-  m_page->setFixedWidth(m_page->fontMetrics().horizontalAdvance(QStringLiteral("0000 / 0000")));
+  const int text = m_page->fontMetrics().horizontalAdvance(QStringLiteral("0000 / 0000"));
+  const int edges = style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, m_page) + pageMargin;
+  m_page->setFixedWidth(text + 2 * edges);
   connect(m_page, &QLineEdit::returnPressed, this, [this] { emit pageEntered(m_page->text()); });
   connect(m_page, &QLineEdit::editingFinished, this, [this] { m_page->setText(m_shownPage); });
   addWidget(m_page)->setEnabled(false);
