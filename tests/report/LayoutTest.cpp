@@ -16,6 +16,17 @@ void addHeaderAndFooter(SmallReport& small) {
       SmallReport::label(QStringLiteral("lblFoot"), {0, 0, 3000, 400}, QStringLiteral("页脚")));
 }
 
+/// Where the bands of a page stand, in their order.
+std::vector<QPointF> placesOf(const Document& document, int page) {
+  std::vector<QPointF> places;
+  for (const auto& [name, text] : shapesOf<report::TextPrimitive>(document, page)) {
+    places.push_back(text.box.topLeft() - QPointF(100, 200));
+  }
+  return places;
+}
+
+using Places = std::vector<QPointF>;
+
 }  // namespace
 
 TEST(Layout, BandsFollowEachOtherAndBreakWhereThePageEnds) {
@@ -85,4 +96,45 @@ TEST(Layout, AnErrorInAnEventReachesTheCallerAndTheNextRunIsWhole) {
   EXPECT_THROW(std::ignore = small.run(), runtime::RuntimeError);
   small.fill = nullptr;
   EXPECT_EQ(textsOf(small.run(), 0), QStringList({QStringLiteral("1"), QStringLiteral("2")}));
+}
+
+TEST(Layout, ColumnsAreFilledRowByRowAndBreakWithTheirRow) {
+  SmallReport small;
+  small.Columns = {3, 1500};
+  small.bandCount = 11;
+  small.fill = [](SmallReport& report, int band) {
+    report.Detail.control(QStringLiteral("lblText")).Caption = QString::number(band + 1);
+    // One band makes its row higher; 6500 twips hold three rows then.
+    if (band == 4) report.Detail.Height = 4000;
+  };
+  const Document document = small.run();
+  ASSERT_EQ(document.pageCount(), 2);
+  EXPECT_EQ(placesOf(document, 0), (Places{{500, 700},
+                                           {2000, 700},
+                                           {3500, 700},
+                                           {500, 1700},
+                                           {2000, 1700},
+                                           {3500, 1700},
+                                           {500, 5700},
+                                           {2000, 5700},
+                                           {3500, 5700}}));
+  EXPECT_EQ(placesOf(document, 1), (Places{{500, 700}, {2000, 700}}));
+  EXPECT_EQ(textsOf(document, 1), QStringList({QStringLiteral("10"), QStringLiteral("11")}));
+  EXPECT_EQ(document.texts(1).at(1).box.topLeft(), QPoint(2100, 900)) << "where a search marks it";
+}
+
+TEST(Layout, PlacesLeftFreeCountOnTheFirstPageOnly) {
+  SmallReport small;
+  small.Columns = {2, 2000, 9};
+  small.bandCount = 5;
+  const Document document = small.run();
+  ASSERT_EQ(document.pageCount(), 2);
+  EXPECT_EQ(placesOf(document, 0), (Places{{2500, 4700}, {500, 5700}, {2500, 5700}}));
+  EXPECT_EQ(placesOf(document, 1), (Places{{500, 700}, {2500, 700}}));
+  small.Columns.free = 12;
+  small.bandCount = 1;
+  EXPECT_TRUE(small.run().page(0).empty());
+  EXPECT_EQ(placesOf(small.run(), 1), (Places{{500, 700}}));
+  small.bandCount = 0;
+  EXPECT_EQ(small.run().pageCount(), 1);
 }

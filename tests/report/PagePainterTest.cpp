@@ -136,3 +136,18 @@ TEST(DecodingPictureSource, KeepsImagesBySizeAndWithinItsBound) {
   EXPECT_GE(pictures.image(second, {120, 90}).width(), 128);
   EXPECT_NE(pictures.image(first, {120, 90}).cacheKey(), key) << "the bound holds one image";
 }
+
+TEST(PagePainter, LinesRunAcrossOrDownAndStayVisible) {
+  auto across = SmallReport::label(QStringLiteral("line"), {500, 1000, 800, 0});
+  across.Kind = report::ControlKind::Line;
+  auto down = SmallReport::label(QStringLiteral("line"), {2005, 300, 0, 900});
+  down.Kind = report::ControlKind::Line;
+  const QImage image = paint({across, down});
+  const QRect left = inked(image.copy(0, 0, 150, 200));
+  EXPECT_NEAR(left.width(), 80, 2);
+  EXPECT_LE(left.height(), 2);
+  const QRect right = inked(image.copy(150, 0, 150, 200));
+  EXPECT_EQ(right.left(), 50);
+  EXPECT_EQ(right.width(), 1);
+  EXPECT_NEAR(right.height(), 90, 2);
+}

@@ -44,7 +44,8 @@ Document ActiveReport::run() {
   data->detail = Detail;
   data->footer = PageFooter;
   data->bands = fetchBands();
-  data->pages = breakIntoPages(data->bands, data->headerTop + PageHeader.Height, data->footerTop);
+  data->pages = breakIntoPages(data->bands, {data->left, data->headerTop + PageHeader.Height, data->footerTop,
+                                             Columns, Detail.Height});
   return Document(std::move(data));
 }
 

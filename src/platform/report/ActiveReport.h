@@ -33,6 +33,8 @@ class ActiveReport {
   /// Twips; A4 portrait by default.
   QSize PaperSize{11906, 16838};
   QMargins Margins{1440, 1134, 1440, 1134};
+  /// How the detail bands stand side by side; one below the other by default.
+  BandColumns Columns;
   /// Title of the preview window and of the PDF.
   QString Title;
 

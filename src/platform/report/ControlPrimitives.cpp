@@ -106,6 +106,8 @@ void appendControl(std::vector<Primitive>& primitives, const Control& control, Q
       return append(primitives, control, BoxPrimitive{box, frameWidth});
     case ControlKind::Barcode:
       return appendBarcode(primitives, control, box);
+    case ControlKind::Line:
+      return append(primitives, control, BoxPrimitive{box, hairline});
   }
 }
 

@@ -10,10 +10,10 @@
 
 namespace report {
 
-enum class ControlKind { Label, Image, Shape, Barcode };
+enum class ControlKind { Label, Image, Shape, Barcode, Line };
 
-/// What a label, an image, a rectangle or a barcode is by design. Positions and sizes are twips from the
-/// section's top left corner.
+/// What a label, an image, a rectangle, a barcode or a line is by design. Positions and sizes are twips from
+/// the section's top left corner; a line runs across or down, so its height or its width is 0.
 struct Control {
   ControlKind Kind = ControlKind::Label;
   QString Name;
@@ -37,7 +37,7 @@ struct Control {
   bool operator==(const Control&) const = default;
 };
 
-/// A band of the report. `Height` is twips.
+/// A band of the report. `Height` is twips; controls may stand outside of it.
 struct Section {
   QString Name;
   int Height = 0;

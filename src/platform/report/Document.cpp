@@ -32,7 +32,7 @@ void forEachBand(const DocumentData& data, int index, const Append& append) {
   const Band unchanged;
   append(data.header, unchanged, QPoint(data.left, data.headerTop));
   for (const PlacedBand& placed : data.pages[static_cast<std::size_t>(index)]) {
-    append(data.detail, data.bands[placed.band], QPoint(data.left, placed.top));
+    append(data.detail, data.bands[placed.band], QPoint(placed.left, placed.top));
   }
   append(data.footer, unchanged, QPoint(data.left, data.footerTop));
 }

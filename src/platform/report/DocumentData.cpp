@@ -68,17 +68,30 @@ QString captionIn(const Section& design, std::size_t index, const Band& band) {
   return applyBand(design, index, band, next).Caption;
 }
 
-std::vector<PageLayout> breakIntoPages(const std::vector<Band>& bands, int top, int bottom) {
+std::vector<PageLayout> breakIntoPages(const std::vector<Band>& bands, const BandArea& area) {
+  const auto columns = static_cast<std::size_t>(std::max(area.columns.count, 1));
+  const auto free = static_cast<std::size_t>(std::max(area.columns.free, 0));
+  const std::size_t places = free + bands.size();
+  const auto heightOf = [&](std::size_t place) {
+    return place < free ? area.freeHeight : std::max(bands[place - free].height, 0);
+  };
   std::vector<PageLayout> pages(1);
-  int at = top;
-  for (std::size_t i = 0; i < bands.size(); ++i) {
-    const int height = std::max(bands[i].height, 0);
-    if (at + height > bottom && !pages.back().empty()) {
+  int nextTop = area.top;
+  bool pageHasRows = false;
+  for (std::size_t first = 0; first < places; first += columns) {
+    const std::size_t end = std::min(first + columns, places);
+    int height = 0;
+    for (std::size_t place = first; place < end; ++place) height = std::max(height, heightOf(place));
+    if (nextTop + height > area.bottom && pageHasRows) {
       pages.emplace_back();
-      at = top;
+      nextTop = area.top;
     }
-    pages.back().push_back({i, at});
-    at += height;
+    for (std::size_t place = std::max(first, free); place < end; ++place) {
+      const int left = area.left + static_cast<int>(place - first) * area.columns.step;
+      pages.back().push_back({place - free, left, nextTop});
+    }
+    nextTop += height;
+    pageHasRows = true;
   }
   return pages;
 }

@@ -37,11 +37,30 @@ struct Band {
 
 struct PlacedBand {
   std::size_t band = 0;
-  /// Twips from the paper's top edge.
+  /// Twips from the paper's top left corner.
+  int left = 0;
   int top = 0;
 };
 
 using PageLayout = std::vector<PlacedBand>;
+
+/// The columns in which bands stand: row by row, from left to right. A row is as high as its highest band.
+struct BandColumns {
+  int count = 1;
+  /// Twips from a column's left edge to that of the next one.
+  int step = 0;
+  /// Places before the first band that stay free, as high as the section by design.
+  int free = 0;
+};
+
+/// The part of a page that bands stand in, twips from the paper's top left corner.
+struct BandArea {
+  int left = 0;
+  int top = 0;
+  int bottom = 0;
+  BandColumns columns;
+  int freeHeight = 0;
+};
 
 /// What a Document shares among its copies: templates, values and where the bands stand.
 class DocumentData {
@@ -59,7 +78,7 @@ class DocumentData {
   std::vector<PageLayout> pages;
 };
 
-/// Breaks bands into pages between `top` and `bottom`. A band that is higher than a page stands alone.
-[[nodiscard]] std::vector<PageLayout> breakIntoPages(const std::vector<Band>& bands, int top, int bottom);
+/// Breaks rows of bands into pages. A row that is higher than the area stands alone.
+[[nodiscard]] std::vector<PageLayout> breakIntoPages(const std::vector<Band>& bands, const BandArea& area);
 
 }  // namespace report

@@ -21,7 +21,7 @@ struct TextPrimitive {
   Qt::Alignment alignment;
 };
 
-/// The outline of a rectangle, `penWidth` twips wide.
+/// The outline of a rectangle, `penWidth` twips wide; of one without height or width, a line.
 struct BoxPrimitive {
   QRectF box;
   double penWidth = 0;
