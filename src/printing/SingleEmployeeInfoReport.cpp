@@ -31,7 +31,13 @@ const std::array<CardControl, 12>& cardDesign() {
   static const QString song = QStringLiteral("宋体");
   static const QString arial = QStringLiteral("Arial");
   static const std::array<CardControl, 12> design{{
-      {ControlKind::Shape, QStringLiteral("Shape1"), {0, 0, 4677, 3260}, {}, song, 10, leftMiddle},
+      {ControlKind::Shape,
+       QStringLiteral("Shape1"),
+       {QPoint(), SingleEmployeeInfoReport::cardSize},
+       {},
+       song,
+       10,
+       leftMiddle},
       {ControlKind::Image, QStringLiteral("logPic"), {142, 142, 567, 567}, {}, song, 10, leftMiddle},
       {ControlKind::Label,
        QStringLiteral("lblUnit"),

@@ -10,6 +10,9 @@
 /// The sign-in cards, one a detail band, four a page.
 class SingleEmployeeInfoReport : public report::ActiveReport {
  public:
+  /// Twips, to the middle of the frame's lines.
+  static constexpr QSize cardSize{4677, 3260};
+
   SingleEmployeeInfoReport();
 
   /// Hands in the employees and starts the count anew. An empty pointer lets go of the ones before.
