@@ -1,10 +1,14 @@
 #include "cli/CardsCommand.h"
 
+#include <optional>
+
+#include <QRegularExpression>
+
 #include "ado/Recordset.h"
 #include "cli/Database.h"
 #include "foundation/SqlText.h"
+#include "printing/CardSheetReport.h"
 #include "printing/OutputFile.h"
-#include "printing/SingleEmployeeInfoReport.h"
 #include "report/Pdf.h"
 #include "runtime/Conversions.h"
 #include "runtime/RuntimeError.h"
@@ -32,6 +36,22 @@ std::shared_ptr<clsEmployee> loaded(const QString& number) {
           : QStringLiteral("未能读取员工“%1”：%2").arg(number, employee->lastFailure()));
 }
 
+/// How far "1.5,-0.3" moves the cards, tenths of a millimetre; nothing for a text that does not say it or
+/// goes too far.
+std::optional<QPoint> parseOffset(const QString& text) {
+  static const QRegularExpression form(
+      QStringLiteral("^(-?)([0-9]{1,2})(?:\\.([0-9]))?,(-?)([0-9]{1,2})(?:\\.([0-9]))?$"));
+  const QRegularExpressionMatch match = form.match(text);
+  if (!match.hasMatch()) return std::nullopt;
+  const auto tenths = [&match](int group) {
+    const int size = match.captured(group + 1).toInt() * 10 + match.captured(group + 2).toInt();
+    return match.captured(group).isEmpty() ? size : -size;
+  };
+  const QPoint offset(tenths(1), tenths(4));
+  const int most = std::max(std::abs(offset.x()), std::abs(offset.y()));
+  return most <= CardSheet::farthest ? std::optional(offset) : std::nullopt;
+}
+
 }  // namespace
 
 QString CardsCommand::summary() const {
@@ -48,12 +68,47 @@ std::vector<Option> CardsCommand::options() {
            .valueName = QStringLiteral("FILE.pdf"),
            .help = QStringLiteral("写到这个文件；已有的文件只会被完整的新文件取代"),
            .target = &m_out,
-           .required = true}};
+           .required = true},
+          {.name = QStringLiteral("--sheet"),
+           .help = QStringLiteral("拼版：每张 A4 纸上 2 列 4 行，共 8 张卡"),
+           .target = &m_asSheet},
+          {.name = QStringLiteral("--start"),
+           .valueName = QStringLiteral("N"),
+           .help = QStringLiteral("拼版时第一张纸从第 N 个位置开始（1 到 8）"),
+           .target = &m_start,
+           .least = 1,
+           .most = CardSheet::places},
+          {.name = QStringLiteral("--cut-marks"),
+           .help = QStringLiteral("拼版时打印裁切线"),
+           .target = &m_cutMarks},
+          {.name = QStringLiteral("--offset"),
+           .valueName = QStringLiteral("X,Y"),
+           .help = QStringLiteral("拼版时整体向右、向下偏移的毫米数，例如 1.5,-0.3"),
+           .target = &m_offset}};
 }
 
 QString CardsCommand::usageFault() const {
-  if (m_all == m_numbers.isEmpty()) return {};
-  return QStringLiteral("请给出 --all 或 --number 其中之一");
+  if (m_all != m_numbers.isEmpty()) return QStringLiteral("请给出 --all 或 --number 其中之一");
+  if (!m_asSheet && (m_start != 1 || m_cutMarks || !m_offset.isEmpty())) {
+    return QStringLiteral("--start、--cut-marks 和 --offset 要与 --sheet 一起使用");
+  }
+  if (!m_offset.isEmpty() && !parseOffset(m_offset)) {
+    return QStringLiteral("“%1”不是 1.5,-0.3 这样的偏移（两个数，最多一位小数，-%2 到 %2 毫米）")
+        .arg(m_offset)
+        .arg(CardSheet::farthest / 10);
+  }
+  return {};
+}
+
+std::unique_ptr<SingleEmployeeInfoReport> CardsCommand::makeReport() const {
+  if (!m_asSheet) return std::make_unique<SingleEmployeeInfoReport>();
+  const QPoint offset = parseOffset(m_offset).value_or(QPoint());
+  CardSheet sheet;
+  sheet.start = m_start;
+  sheet.cutMarks = m_cutMarks;
+  sheet.right = offset.x();
+  sheet.down = offset.y();
+  return std::make_unique<CardSheetReport>(sheet);
 }
 
 std::shared_ptr<clsEmployeeSet> CardsCommand::load(const std::shared_ptr<ado::Connection>& connection) const {
@@ -80,13 +135,15 @@ int CardsCommand::run(const Streams& streams) {
     streams.err << QStringLiteral("没有可打印的员工\n");
     return Failed;
   }
-  SingleEmployeeInfoReport report;
-  report.SetEmployeeSet(employees);
-  report::writePdf(report.run(), m_out);
-  streams.out << QStringLiteral("已写入 %1 张签到卡：%2\n").arg(employees->Count()).arg(m_out);
-  if (report.photoFailures().isEmpty()) return Done;
+  const auto report = makeReport();
+  report->SetEmployeeSet(employees);
+  const report::Document document = report->run();
+  report::writePdf(document, m_out);
+  const QString sheets = m_asSheet ? QStringLiteral("（%1 张 A4 纸）").arg(document.pageCount()) : QString();
+  streams.out << QStringLiteral("已写入 %1 张签到卡%2：%3\n").arg(employees->Count()).arg(sheets, m_out);
+  if (report->photoFailures().isEmpty()) return Done;
   streams.err << QStringLiteral("下列员工的照片无法读取，卡上照片留空：\n");
-  for (const QString& failure : report.photoFailures()) streams.err << failure << '\n';
+  for (const QString& failure : report->photoFailures()) streams.err << failure << '\n';
   return Failed;
 }
 

@@ -4,11 +4,12 @@
 
 #include "ado/Connection.h"
 #include "cli/Command.h"
+#include "printing/SingleEmployeeInfoReport.h"
 #include "records/clsEmployeeSet.h"
 
 namespace cli {
 
-/// Prints sign-in cards into a PDF.
+/// Prints sign-in cards into a PDF, four on a page or eight on a sheet to be cut.
 class CardsCommand : public Command {
  public:
   [[nodiscard]] QString name() const override { return QStringLiteral("cards"); }
@@ -21,10 +22,15 @@ class CardsCommand : public Command {
  private:
   [[nodiscard]] std::shared_ptr<clsEmployeeSet> load(
       const std::shared_ptr<ado::Connection>& connection) const;
+  [[nodiscard]] std::unique_ptr<SingleEmployeeInfoReport> makeReport() const;
 
   bool m_all = false;
   QStringList m_numbers;
   QString m_out;
+  bool m_asSheet = false;
+  int m_start = 1;
+  bool m_cutMarks = false;
+  QString m_offset;
 };
 
 }  // namespace cli
