@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "printing/CardPreview.h"
+#include "printing/CardSheetReport.h"
 #include "runtime/Progress.h"
 #include "ui/ItemKey.h"
 
@@ -34,4 +35,11 @@ void CardPrinting::collect(const QString& number, clsEmployeeSet& employees) {
 void CardPrinting::show(std::shared_ptr<clsEmployeeSet> employees) {
   if (!m_report) m_report = std::make_unique<SingleEmployeeInfoReport>();
   showCardPreview(*m_report, std::move(employees));
+}
+
+void CardPrinting::showSheets(std::shared_ptr<clsEmployeeSet> employees) const {
+  // Nothing else may hold the employees when the preview lets go of them: their photo files go with them.
+  employees = arranged(*employees, m_sheet.order);
+  CardSheetReport report(m_sheet);
+  showCardPreview(report, std::move(employees));
 }

@@ -57,6 +57,7 @@ constexpr std::array tree = {
 
     MenuEntry{L1(), L1("mnuTools"), u"工具(&T)"},
     MenuEntry{L1("mnuTools"), L1("mnuRosterImport"), u"批量导入(&B)...", mnuRosterImport_Click},
+    MenuEntry{L1("mnuTools"), L1("mnuCardSheet"), u"拼版打印(&G)...", mnuCardSheet_Click},
 
     MenuEntry{L1(), L1("mnuHelp"), u"帮助(&H)"},
     MenuEntry{L1("mnuHelp"), L1("mnuHelpFile"), u"帮助文件(&F)", mnuHelpFile_Click},

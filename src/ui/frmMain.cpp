@@ -39,7 +39,7 @@ constexpr std::array empColumns = {ListColumn{u"员工号", 800}, ListColumn{u"�
 constexpr std::array deptMenus = {L1("mnuDeptAppend"), L1("mnuDeptRemove"), L1("mnuDeptEdit"),
                                   L1("mnuDeptExport")};
 constexpr std::array empMenus = {L1("mnuEmpImport"), L1("mnuEmpExport"), L1("mnuEmpPrint"),
-                                 L1("mnuEmpRemove")};
+                                 L1("mnuEmpRemove"), L1("mnuCardSheet")};
 
 /// The list's length in a window whose inner length is `pixels`: the designed gap less, unchanged in a window
 /// that is no longer than the gap.

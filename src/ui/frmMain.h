@@ -37,6 +37,9 @@ class frmMain : public QMainWindow, public MainForm {
   /// The list of records that is shown, for handlers that work on its selection.
   [[nodiscard]] RecordList& List() { return *lsvData; }
   [[nodiscard]] MainStatus& Status() { return m_status; }
+  [[nodiscard]] CardPrinting& Cards() { return m_cards; }
+  /// Says in the status bar how many cards are printed, and which of the selected employees are skipped.
+  void NotePrinting(int cards);
   /// Reads the departments again; the check marks of the menus stay as they are.
   void ShowDeptList();
 
@@ -68,7 +71,6 @@ class frmMain : public QMainWindow, public MainForm {
   void Report(const QString& failure);
   /// What the entry of the list's mode does; nothing when no list is shown.
   void Perform(QLatin1String forEmployees, QLatin1String forDepartments);
-  void NotePrinting(int cards);
   [[nodiscard]] QAction& Menu(QLatin1String name) const;
 
   void UpdateMenuState();

@@ -44,6 +44,7 @@ mnuAttendance 考勤(&K)
   mnuMonthReport 月考勤报表(&M)...
 mnuTools 工具(&T)
   mnuRosterImport 批量导入(&B)...
+  mnuCardSheet 拼版打印(&G)...
 mnuHelp 帮助(&H)
   mnuHelpFile 帮助文件(&F)
   mnuVistHomePage 访问官方网站(&V)
@@ -56,7 +57,8 @@ mnuPopMenu 弹出菜单
   mnuPop_Export 导出(&O))");
 
 constexpr std::array departmentEntries = {"mnuDeptAppend", "mnuDeptRemove", "mnuDeptEdit", "mnuDeptExport"};
-constexpr std::array employeeEntries = {"mnuEmpImport", "mnuEmpExport", "mnuEmpPrint", "mnuEmpRemove"};
+constexpr std::array employeeEntries = {"mnuEmpImport", "mnuEmpExport", "mnuEmpPrint", "mnuEmpRemove",
+                                        "mnuCardSheet"};
 constexpr std::array alwaysEnabled = {"mnuCardInfoSet", "mnuExit",         "mnuDeptDsp",  "mnuEmpDsp",
                                       "mnuMonthReport", "mnuRosterImport", "mnuAbout",    "mnuPop_Append",
                                       "mnuPop_Edit",    "mnuPop_Remove",   "mnuHelpFile", "mnuPop_Export",
