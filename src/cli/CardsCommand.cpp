@@ -142,7 +142,7 @@ int CardsCommand::run(const Streams& streams) {
   const QString sheets = m_asSheet ? QStringLiteral("（%1 张 A4 纸）").arg(document.pageCount()) : QString();
   streams.out << QStringLiteral("已写入 %1 张签到卡%2：%3\n").arg(employees->Count()).arg(sheets, m_out);
   if (report->photoFailures().isEmpty()) return Done;
-  streams.err << QStringLiteral("下列员工的照片无法读取，卡上照片留空：\n");
+  streams.err << QStringLiteral("下列图片无法读取，卡上照片留空，标志用默认的：\n");
   for (const QString& failure : report->photoFailures()) streams.err << failure << '\n';
   return Failed;
 }

@@ -12,9 +12,9 @@ constexpr qsizetype linesShown = 20;
 
 void tellPhotoFailures(const QStringList& failures) {
   if (failures.isEmpty()) return;
-  QStringList lines{QStringLiteral("以下员工的照片无法读取，签到卡上留空：")};
+  QStringList lines{QStringLiteral("以下图片无法读取，签到卡上照片留空，标志用默认的：")};
   lines += failures.mid(0, linesShown);
-  if (failures.size() > linesShown) lines.append(QStringLiteral("……共 %1 名").arg(failures.size()));
+  if (failures.size() > linesShown) lines.append(QStringLiteral("……共 %1 处").arg(failures.size()));
   dialogs::MsgBox(lines.join(QStringLiteral("\n")), dialogs::Exclamation, QStringLiteral("警告"));
 }
 

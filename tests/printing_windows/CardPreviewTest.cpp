@@ -7,6 +7,7 @@
 
 #include "preview/PreviewWindow.h"
 #include "printing/CardPreview.h"
+#include "printing/clsLogo.h"
 #include "support/Files.h"
 #include "support/ScriptedBoxes.h"
 #include "support/TestHome.h"
@@ -64,8 +65,10 @@ TEST_F(CardPreviewTest, EmployeesAreLetGoWhenThePreviewCloses) {
   EXPECT_FALSE(QFile::exists(photoFile(5)));
 }
 
-TEST_F(CardPreviewTest, UnreadablePhotosAreToldInOneMessage) {
-  boxes.expectMessage(QStringLiteral("以下员工的照片无法读取，签到卡上留空："));
+TEST_F(CardPreviewTest, UnreadablePicturesAreToldInOneMessage) {
+  support::writeFile(home.file(QStringLiteral("logo.gif")), "no picture");
+  ASSERT_TRUE(clsLogo().SetPath(home.file(QStringLiteral("logo.gif"))));
+  boxes.expectMessage(QStringLiteral("以下图片无法读取，签到卡上照片留空，标志用默认的："));
   EXPECT_EQ(shownPages(employees(25, "no picture")), QStringLiteral("1 / 7"));
   ASSERT_EQ(boxes.messages().size(), 1u);
   const dialogs::MessageBox& box = boxes.messages()[0];
@@ -73,8 +76,9 @@ TEST_F(CardPreviewTest, UnreadablePhotosAreToldInOneMessage) {
   EXPECT_EQ(box.title, QStringLiteral("警告"));
   const QStringList lines = box.text.split(u'\n');
   ASSERT_EQ(lines.size(), 22);
-  EXPECT_TRUE(lines[20].contains(QStringLiteral("20")));
-  EXPECT_EQ(lines[21], QStringLiteral("……共 25 名"));
+  EXPECT_TRUE(lines[1].contains(QStringLiteral("logo.gif")));
+  EXPECT_TRUE(lines[20].contains(QStringLiteral("19")));
+  EXPECT_EQ(lines[21], QStringLiteral("……共 26 处"));
 }
 
 TEST_F(CardPreviewTest, ARunThatFailsLetsGoAsWell) {
