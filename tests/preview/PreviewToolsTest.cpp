@@ -178,6 +178,15 @@ TEST_F(PreviewToolsTest, FindingGoesFromHitToHit) {
   EXPECT_TRUE(window->isVisible());
 }
 
+TEST_F(PreviewToolsTest, PagesThatOnlyLettersLedToAreNoVisits) {
+  openSample(130);
+  find(QStringLiteral("128"));
+  EXPECT_EQ(view->currentPage(), 127);
+  use(PreviewToolbar::Back);
+  EXPECT_EQ(view->currentPage(), 0);
+  EXPECT_FALSE(toolbar->tool(PreviewToolbar::Back)->isEnabled());
+}
+
 TEST_F(PreviewToolsTest, HitsAreHighlightedUntilTheBarCloses) {
   openSample(3);
   find(QStringLiteral("1"));

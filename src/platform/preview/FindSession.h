@@ -25,7 +25,8 @@ class FindSession : public QObject {
   void step(int by);
 
  signals:
-  /// The view goes from one page to the one of a hit.
+  /// The view goes from one page to the one of a hit. While a text is typed, told of the first page only: the
+  /// ones that each letter leads to are no places to come back to.
   void pageTurned(int from, int to);
 
  private:
@@ -35,6 +36,7 @@ class FindSession : public QObject {
   PageView& m_view;
   FindBar& m_bar;
   TextSearch m_search;
+  bool m_turnedByTyping = false;
 };
 
 }  // namespace preview
