@@ -16,6 +16,16 @@ TEST(Contents, ARowAPageWithItsNumberAndEntries) {
   EXPECT_EQ(pane.model()->index(4, 0).data().toString(), QStringLiteral("第 5 页\n5"));
 }
 
+TEST(Contents, ManyEntriesOfAPageShareLinesAndTheRestIsLeftOut) {
+  const auto shown = [](int entries) {
+    SampleReport report(entries);
+    report.Detail.Height = 200;
+    return ContentsPane(report.run()).model()->index(0, 0).data().toString();
+  };
+  EXPECT_EQ(shown(7), QStringLiteral("第 1 页\n1　2\n3　4\n5　6\n7"));
+  EXPECT_EQ(shown(10), QStringLiteral("第 1 页\n1　2\n3　4\n5　6\n……"));
+}
+
 TEST(Contents, FollowsWithoutChoosing) {
   ContentsPane pane(sampleDocument(12));
   QSignalSpy chosen(&pane, &ContentsPane::pageChosen);

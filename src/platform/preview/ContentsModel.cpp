@@ -7,8 +7,17 @@ namespace {
 constexpr int rowMargin = 5;
 constexpr qsizetype linesBeside = 4;
 
+QStringList twoALine(const QStringList& entries) {
+  QStringList lines;
+  for (qsizetype i = 0; i < entries.size(); i += 2) {
+    lines += QStringList(entries.mid(i, 2)).join(QStringLiteral("　"));
+  }
+  return lines;
+}
+
 /// As many lines as fit beside the picture.
 QString shownEntries(QStringList entries) {
+  if (entries.size() > linesBeside) entries = twoALine(entries);
   if (entries.size() > linesBeside) {
     entries = entries.mid(0, linesBeside - 1) + QStringList{QStringLiteral("……")};
   }
