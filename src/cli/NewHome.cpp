@@ -14,6 +14,7 @@
 #include "runtime/CodePage.h"
 #include "runtime/ReplacingFile.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/SystemWords.h"
 
 namespace cli {
 
@@ -123,7 +124,8 @@ void NewHome::makeSettings() {
   QFile file(settingsFile());
   if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
     refuse(runtime::ErrorNumber::FileAccess,
-           QStringLiteral("无法建立文件“%1”：%2").arg(file.fileName(), file.errorString()));
+           QStringLiteral("无法建立文件“%1”：%2")
+               .arg(file.fileName(), runtime::systemWords(file.errorString())));
   }
   file.close();
   m_madeFiles.append(file.fileName());

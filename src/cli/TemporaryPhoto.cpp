@@ -2,6 +2,7 @@
 
 #include "runtime/ProgramDirectory.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/SystemWords.h"
 
 namespace cli {
 
@@ -11,9 +12,9 @@ TemporaryPhoto::TemporaryPhoto(const QByteArray& bytes)
     m_file.close();
     return;
   }
-  throw runtime::RuntimeError(
-      runtime::ErrorNumber::FileIo,
-      QStringLiteral("无法在目录“%1”中写入临时照片：%2").arg(runtime::AppPath(), m_file.errorString()));
+  throw runtime::RuntimeError(runtime::ErrorNumber::FileIo,
+                              QStringLiteral("无法在目录“%1”中写入临时照片：%2")
+                                  .arg(runtime::AppPath(), runtime::systemWords(m_file.errorString())));
 }
 
 }  // namespace cli

@@ -11,6 +11,7 @@
 #include "exchange/CsvReader.h"
 #include "runtime/CodePage.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/SystemWords.h"
 
 namespace {
 
@@ -63,13 +64,13 @@ QByteArray contentOf(const QString& path) {
     refuse(QStringLiteral("“%1”不是文件").arg(path), runtime::ErrorNumber::FileAccess);
   }
   if (!file.open(QIODevice::ReadOnly)) {
-    refuse(QStringLiteral("名单文件“%1”无法打开：%2").arg(path, file.errorString()),
+    refuse(QStringLiteral("名单文件“%1”无法打开：%2").arg(path, runtime::systemWords(file.errorString())),
            runtime::ErrorNumber::FileAccess);
   }
   if (file.size() > largestFile) refuse(QStringLiteral("名单文件“%1”超过 16 MB").arg(path));
   QByteArray bytes = file.readAll();
   if (file.error() != QFileDevice::NoError) {
-    refuse(QStringLiteral("名单文件“%1”无法读取：%2").arg(path, file.errorString()),
+    refuse(QStringLiteral("名单文件“%1”无法读取：%2").arg(path, runtime::systemWords(file.errorString())),
            runtime::ErrorNumber::FileIo);
   }
   refuseOtherKinds(bytes);

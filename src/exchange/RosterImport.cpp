@@ -47,7 +47,9 @@ bool RosterImport::run(const RosterOptions& options) {
   // Employee objects delete the file that they are given, so they get copies; what is left of these goes with
   // the folder.
   const QTemporaryDir folder;
-  if (!folder.isValid()) fail(QStringLiteral("临时文件夹无法建立"), folder.errorString());
+  if (!folder.isValid()) {
+    fail(QStringLiteral("临时文件夹无法建立"), runtime::systemWords(folder.errorString()));
+  }
   if (!prepare(folder.path())) return false;
 
   ado::Transaction transaction(ado::required(clsDbConn().GetDbConn()));

@@ -7,6 +7,7 @@
 
 #include "runtime/ReplacingFile.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/SystemWords.h"
 
 namespace {
 
@@ -73,7 +74,7 @@ void Sheet::allowTextNumbers(int c) {
 }
 
 Workbook::Workbook() : m_book(nullptr) {
-  if (!m_directory.isValid()) fail(m_directory.errorString());
+  if (!m_directory.isValid()) fail(runtime::systemWords(m_directory.errorString()));
   m_book = workbook_new(QFile::encodeName(file()).constData());
   if (m_book == nullptr) fail(QStringLiteral("内存不足"));
 }
@@ -106,7 +107,7 @@ void Workbook::save(const QString& path) {
   // Closing frees the workbook, whether it succeeds or not.
   require(workbook_close(std::exchange(m_book, nullptr)));
   QFile made(file());
-  if (!made.open(QIODevice::ReadOnly)) fail(made.errorString());
+  if (!made.open(QIODevice::ReadOnly)) fail(runtime::systemWords(made.errorString()));
   target.write(made.readAll());
   target.commit();
 }

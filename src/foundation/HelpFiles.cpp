@@ -6,6 +6,7 @@
 
 #include "runtime/ReplacingFile.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/SystemWords.h"
 
 namespace {
 
@@ -26,8 +27,9 @@ QStringList namesIn(const QString& place) {
 QByteArray contentOf(const QString& path) {
   QFile file(path);
   if (file.open(QIODevice::ReadOnly)) return file.readAll();
-  throw runtime::RuntimeError(runtime::ErrorNumber::FileAccess,
-                              QStringLiteral("无法读取文件“%1”：%2").arg(path, file.errorString()));
+  throw runtime::RuntimeError(
+      runtime::ErrorNumber::FileAccess,
+      QStringLiteral("无法读取文件“%1”：%2").arg(path, runtime::systemWords(file.errorString())));
 }
 
 void refuseReadOnly(const QString& directory) {

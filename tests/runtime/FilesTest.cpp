@@ -7,6 +7,7 @@
 #include "runtime/ProgramDirectory.h"
 #include "runtime/ReplacingFile.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/SystemWords.h"
 #include "support/Files.h"
 #include "support/FullDisk.h"
 #include "support/Thrown.h"
@@ -117,3 +118,15 @@ TEST(ProgramDirectory, PlainNamesStayInTheirDirectory) {
 }
 
 }  // namespace
+
+TEST(SystemWords, FailuresOfFilesAreToldInTheUsersLanguage) {
+  const auto words = [](const QString& path) {
+    QFile file(path);
+    EXPECT_FALSE(file.open(QIODevice::ReadOnly));
+    return runtime::systemWords(file.errorString());
+  };
+  EXPECT_EQ(words(QStringLiteral("/nowhere/at/all")), QStringLiteral("文件或目录不存在"));
+  EXPECT_EQ(words(QStringLiteral("/dev/null/below")), QStringLiteral("路径中有一段不是目录"));
+  EXPECT_EQ(words(QString(300, u'x')), QStringLiteral("文件名太长"));
+  EXPECT_EQ(runtime::systemWords(QStringLiteral("Unknown")), QStringLiteral("Unknown"));
+}

@@ -41,7 +41,8 @@ class PersistedReader::Parsing : public XmlHandler {
     requireFile(path);
     errno = 0;
     if (!m_file.open(QIODevice::ReadOnly)) {
-      const QString why = errno == 0 ? m_file.errorString() : runtime::systemWords(errno);
+      const QString why =
+          errno == 0 ? runtime::systemWords(m_file.errorString()) : runtime::systemWords(errno);
       refuse(QStringLiteral("无法打开文件“%1”：%2").arg(path, why));
     }
     while (!m_data && readPiece()) continue;
@@ -89,7 +90,10 @@ class PersistedReader::Parsing : public XmlHandler {
     if (m_atEnd) return false;
     const qsizetype wanted = m_parser.wanted();
     const qint64 read = m_file.read(m_parser.room(wanted), wanted);
-    if (read < 0) refuse(QStringLiteral("无法读取文件“%1”：%2").arg(m_file.fileName(), m_file.errorString()));
+    if (read < 0) {
+      refuse(QStringLiteral("无法读取文件“%1”：%2")
+                 .arg(m_file.fileName(), runtime::systemWords(m_file.errorString())));
+    }
     m_atEnd = read == 0;
     m_parser.parse(read, m_atEnd);
     return true;

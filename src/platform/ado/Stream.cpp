@@ -108,8 +108,9 @@ void Stream::LoadFromFile(const QString& fileName) {
   const bool opened = file.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
   QByteArray bytes = opened ? file.readAll() : QByteArray();
   if (!opened || file.error() != QFileDevice::NoError) {
-    throw RuntimeError(ErrorNumber::FileIo,
-                       QStringLiteral("无法读取文件“%1”：%2").arg(fileName, file.errorString()));
+    throw RuntimeError(
+        ErrorNumber::FileIo,
+        QStringLiteral("无法读取文件“%1”：%2").arg(fileName, runtime::systemWords(file.errorString())));
   }
   m_bytes = std::move(bytes);
   m_position = 0;

@@ -7,6 +7,7 @@
 #include <QTemporaryFile>
 
 #include "graphics/EmfPicture.h"
+#include "runtime/SystemWords.h"
 
 namespace graphics {
 namespace {
@@ -39,7 +40,7 @@ void limitChild() {
 
 void openTemporary(QTemporaryFile& file, const QByteArray& bytes) {
   if (!file.open() || file.write(bytes) != bytes.size() || !file.flush()) {
-    fail(QStringLiteral("临时文件无法写入：%1").arg(file.errorString()));
+    fail(QStringLiteral("临时文件无法写入：%1").arg(runtime::systemWords(file.errorString())));
   }
 }
 

@@ -13,6 +13,7 @@
 #include "graphics/MetafileRecord.h"
 #include "graphics/WmfPicture.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/SystemWords.h"
 
 namespace graphics {
 namespace {
@@ -140,15 +141,17 @@ PicturePointer LoadPicture(const QString& path) {
       throw runtime::RuntimeError(runtime::ErrorNumber::FileNotFound,
                                   QStringLiteral("找不到图片文件“%1”").arg(path));
     }
-    throw runtime::RuntimeError(runtime::ErrorNumber::FileIo,
-                                QStringLiteral("图片文件“%1”无法打开：%2").arg(path, file.errorString()));
+    throw runtime::RuntimeError(
+        runtime::ErrorNumber::FileIo,
+        QStringLiteral("图片文件“%1”无法打开：%2").arg(path, runtime::systemWords(file.errorString())));
   }
   const qint64 size = file.size();
   if (size > largestFile) refuse(path, QStringLiteral("文件超过 %1").arg(withUnit(largestFile)));
   QByteArray bytes = file.read(size);
   if (file.error() != QFileDevice::NoError) {
-    throw runtime::RuntimeError(runtime::ErrorNumber::FileIo,
-                                QStringLiteral("图片文件“%1”无法读取：%2").arg(path, file.errorString()));
+    throw runtime::RuntimeError(
+        runtime::ErrorNumber::FileIo,
+        QStringLiteral("图片文件“%1”无法读取：%2").arg(path, runtime::systemWords(file.errorString())));
   }
   return std::make_shared<const Picture>(std::move(bytes), path);
 }

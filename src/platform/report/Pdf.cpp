@@ -11,6 +11,7 @@
 #include "report/PlaceholderSource.h"
 #include "runtime/ReplacingFile.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/SystemWords.h"
 
 namespace report {
 namespace {
@@ -58,7 +59,7 @@ void makePdf(const Document& document, PhotoEncoding photos, QIODevice& target) 
   }
   DecodingPictureSource pictures;
   const QByteArray pdf = drawnPdf(document, pictures, false);
-  if (target.write(pdf) != pdf.size()) fail(target.errorString());
+  if (target.write(pdf) != pdf.size()) fail(runtime::systemWords(target.errorString()));
 }
 
 }  // namespace

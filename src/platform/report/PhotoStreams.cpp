@@ -40,7 +40,8 @@ class DevicePipeline : public Pipeline {
     errno = 0;
     if (m_device.write(reinterpret_cast<const char*>(data), size) == size) return;
     // A file that is written aside forgets the system's reason.
-    const QString why = errno == 0 ? m_device.errorString() : runtime::systemWords(errno);
+    const QString why =
+        errno == 0 ? runtime::systemWords(m_device.errorString()) : runtime::systemWords(errno);
     const auto* file = qobject_cast<const QFileDevice*>(&m_device);
     throw runtime::RuntimeError(
         runtime::ErrorNumber::FileIo,

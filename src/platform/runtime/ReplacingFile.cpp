@@ -51,7 +51,9 @@ ReplacingFile::ReplacingFile(const QString& path) : m_file(path) {
   if (::access(QFile::encodeName(directory).constData(), W_OK) != 0) {
     refuse(ErrorNumber::FileAccess, path, systemWords(errno));
   }
-  if (!m_file.open(QIODevice::WriteOnly)) refuse(ErrorNumber::FileAccess, path, m_file.errorString());
+  if (!m_file.open(QIODevice::WriteOnly)) {
+    refuse(ErrorNumber::FileAccess, path, systemWords(m_file.errorString()));
+  }
 }
 
 void ReplacingFile::write(const QByteArray& bytes) {
@@ -61,7 +63,7 @@ void ReplacingFile::write(const QByteArray& bytes) {
 
 void ReplacingFile::refuseWriting() {
   // The file forgets the system's reason when it gives up.
-  const QString why = errno == 0 ? m_file.errorString() : systemWords(errno);
+  const QString why = errno == 0 ? systemWords(m_file.errorString()) : systemWords(errno);
   refuse(ErrorNumber::FileIo, m_file.fileName(), why);
 }
 

@@ -33,4 +33,12 @@ QString systemWords(int code) {
   }
 }
 
+QString systemWords(const QString& errorString) {
+  for (const int code :
+       {EACCES, EPERM, ENOENT, ENOTDIR, EISDIR, EEXIST, ENOSPC, EDQUOT, EROFS, ENAMETOOLONG, EIO}) {
+    if (qt_error_string(code) == errorString) return systemWords(code);
+  }
+  return errorString;
+}
+
 }  // namespace runtime

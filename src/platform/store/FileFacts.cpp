@@ -1,7 +1,6 @@
 #include "store/FileFacts.h"
 
 #include <cerrno>
-#include <cstring>
 #include <sys/stat.h>
 
 #include <QFile>
@@ -32,10 +31,7 @@ bool directoryIsReadOnly(const QString& path) {
 void requireDatabaseFile(const QString& path) {
   struct stat facts {};
   if (path.contains(QChar(u'\0')) || ::stat(QFile::encodeName(path).constData(), &facts) != 0) {
-    if (errno == EACCES) {
-      cannotOpen(QStringLiteral("没有权限访问数据库文件“%1”：%2")
-                     .arg(path, QString::fromLocal8Bit(std::strerror(errno))));
-    }
+    if (errno == EACCES) cannotOpen(QStringLiteral("没有权限访问数据库文件“%1”").arg(path));
     cannotOpen(QStringLiteral("找不到数据库文件“%1”").arg(path));
   }
   if (S_ISDIR(facts.st_mode)) cannotOpen(QStringLiteral("“%1”是一个目录，不是数据库文件").arg(path));
