@@ -25,7 +25,7 @@ QStringList codesIn(const QString& text) {
 }  // namespace
 
 QStringList ScanSplitter::character(QChar character, Time time) {
-  const bool goesOn = followsOn(time);
+  const bool goesOn = m_last && isSameScan(*m_last, time);
   QStringList codes = goesOn ? QStringList() : take();
   m_dropping = m_deaf || (m_dropping && goesOn);
   m_last = time;
@@ -48,9 +48,9 @@ void ScanSplitter::setDeaf(bool deaf) {
   if (deaf) m_text.clear();
 }
 
-bool ScanSplitter::followsOn(Time time) const {
+bool ScanSplitter::isSameScan(Time before, Time time) {
   // The system's count of milliseconds starts again at 0 after seven weeks.
-  return m_last && time >= *m_last && time - *m_last < pause;
+  return time >= before && time - before < pause;
 }
 
 QStringList ScanSplitter::take() {

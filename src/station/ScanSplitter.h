@@ -17,6 +17,9 @@ class ScanSplitter {
   /// A key that comes so long after the one before begins a new scan.
   static constexpr Time pause{60};
 
+  /// Whether a key at `time` may belong to the scan of a key at `before`.
+  [[nodiscard]] static bool isSameScan(Time before, Time time);
+
   /// The codes that the keys so far were, if this one begins a new scan; empty otherwise.
   [[nodiscard]] QStringList character(QChar character, Time time);
   /// The codes that Enter ended.
@@ -27,7 +30,6 @@ class ScanSplitter {
   void setDeaf(bool deaf);
 
  private:
-  [[nodiscard]] bool followsOn(Time time) const;
   [[nodiscard]] QStringList take();
 
   QString m_text;

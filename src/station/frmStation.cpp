@@ -170,7 +170,7 @@ void frmStation::keyPressEvent(QKeyEvent* event) {
 
 void frmStation::TakeKey(const QKeyEvent& event) {
   // A key that is held down types as fast as a scanner.
-  if (event.isAutoRepeat()) return;
+  if (m_held.repeats(event)) return;
   if (isEnter(event)) {
     m_pause->stop();
     m_pauseEnd->stop();

@@ -7,6 +7,7 @@
 
 #include "station/AnswerPanel.h"
 #include "station/FittingLabel.h"
+#include "station/HeldKey.h"
 #include "station/ScanSplitter.h"
 #include "station/StationController.h"
 
@@ -51,6 +52,7 @@ class frmStation : public QWidget {
 
   StationController m_controller;
   ScanSplitter m_splitter;
+  HeldKey m_held;
   QTimer* m_second;
   QTimer* m_pause;
   QTimer* m_pauseEnd;

@@ -68,6 +68,30 @@ class StationWindow : public StationHome {
   std::unique_ptr<frmStation> m_form;
 };
 
+/// A press of `digit` at `time` milliseconds, as the toolkit delivers it.
+void press(QWidget& form, QChar digit, quint64 time, bool marked) {
+  QKeyEvent event(QEvent::KeyPress, Qt::Key_0 + digit.digitValue(), Qt::NoModifier, QString(digit), marked);
+  event.setTimestamp(time);
+  QCoreApplication::sendEvent(&form, &event);
+}
+
+TEST_F(StationWindow, ADoubledDigitIsTypedTwiceAndAHeldKeyOnce) {
+  // The second of two equal keys in one millisecond is marked as repeated, as a held key's repeats are.
+  quint64 time = 1000;
+  for (qsizetype i = 0; i < first.size(); ++i) {
+    press(form(), first.at(i), time, i > 0 && first.at(i) == first.at(i - 1));
+    if (i % 2 == 1) ++time;
+  }
+  QTest::keyClick(&form(), Qt::Key_Return);
+  EXPECT_EQ(text("lblName"), QStringLiteral("钱进")) << "a card in one burst";
+
+  answerIsOver();
+  press(form(), u'7', 5000, false);
+  for (quint64 repeat = 5100; repeat < 5400; repeat += 30) press(form(), u'7', repeat, true);
+  QTest::keyClick(&form(), Qt::Key_Return);
+  EXPECT_EQ(text("lblResult"), QStringLiteral("未登记的卡号：7"));
+}
+
 TEST_F(StationWindow, AScanIsAnsweredForEyeAndEar) {
   EXPECT_EQ(form().state(), State::Ready);
   EXPECT_EQ(text("lblPrompt"), QStringLiteral("请刷卡"));
