@@ -9,6 +9,7 @@
 #include "foundation/Schema.h"
 #include "foundation/clsDbConn.h"
 #include "runtime/Conversions.h"
+#include "runtime/OutputGuard.h"
 #include "runtime/ReplacingFile.h"
 #include "runtime/RuntimeError.h"
 
@@ -85,6 +86,7 @@ std::vector<Option> BackupCommand::options() {
 
 int BackupCommand::run(const Streams& streams) {
   refuseTarget(m_out);
+  runtime::requireFreeForOutput(m_out);
   const auto connection = openDatabase();
   // The name asked for never stands for a copy that was not tried.
   const QString unfinished = m_out + QStringLiteral(".unfinished");

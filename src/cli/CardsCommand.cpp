@@ -8,9 +8,9 @@
 #include "cli/Database.h"
 #include "foundation/SqlText.h"
 #include "printing/CardSheetReport.h"
-#include "printing/OutputFile.h"
 #include "report/Pdf.h"
 #include "runtime/Conversions.h"
+#include "runtime/OutputGuard.h"
 #include "runtime/RuntimeError.h"
 
 namespace cli {
@@ -129,7 +129,7 @@ std::shared_ptr<clsEmployeeSet> CardsCommand::load(const std::shared_ptr<ado::Co
 
 int CardsCommand::run(const Streams& streams) {
   const auto connection = openDatabase();
-  refuseOwnFile(m_out);
+  runtime::requireFreeForOutput(m_out);
   const auto employees = load(connection);
   if (employees->Count() == 0) {
     streams.err << QStringLiteral("没有可打印的员工\n");

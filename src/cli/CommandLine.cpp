@@ -6,6 +6,8 @@
 
 #include "cli/Commands.h"
 #include "foundation/GlobalDefine.h"
+#include "printing/OutputFile.h"
+#include "runtime/OutputGuard.h"
 #include "runtime/ProgramDirectory.h"
 #include "runtime/RuntimeError.h"
 
@@ -197,6 +199,7 @@ int CommandLine::run(const Streams& streams) {
   // A connection left open by an earlier run in this process may lead to another home.
   gConnection.reset();
   runtime::chooseAppPath(m_home);
+  runtime::installOutputGuard(refuseOwnFile);
   int code = Failed;
   try {
     code = m_chosen->run(streams);

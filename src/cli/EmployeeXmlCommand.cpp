@@ -3,11 +3,11 @@
 #include "cli/Database.h"
 #include "cli/TemporaryPhoto.h"
 #include "exchange/RosterPhotos.h"
-#include "printing/OutputFile.h"
 #include "records/clsDept.h"
 #include "records/clsEmployee.h"
 #include "runtime/Clock.h"
 #include "runtime/Conversions.h"
+#include "runtime/OutputGuard.h"
 #include "runtime/RuntimeError.h"
 
 namespace cli {
@@ -68,7 +68,7 @@ QString EmployeeXmlCommand::usageFault() const {
 
 int EmployeeXmlCommand::run(const Streams& streams) {
   const auto connection = openDatabase();
-  refuseOwnFile(m_out);
+  runtime::requireFreeForOutput(m_out);
   const TemporaryPhoto photo(loadRosterPhoto(m_photo));
   clsEmployee employee;
   employee.setENAME(m_name);

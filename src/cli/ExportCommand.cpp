@@ -3,8 +3,8 @@
 #include <array>
 
 #include "cli/Database.h"
-#include "printing/OutputFile.h"
 #include "records/RecordExport.h"
+#include "runtime/OutputGuard.h"
 
 namespace cli {
 
@@ -52,7 +52,7 @@ QString ExportCommand::usageFault() const {
 
 int ExportCommand::run(const Streams& streams) {
   const auto connection = openDatabase();
-  refuseOwnFile(m_out);
+  runtime::requireFreeForOutput(m_out);
   const Kind* kind = kindOf(m_what);
   const int rows = kind->write(m_out);
   streams.out << QStringLiteral("已导出 %1 %2：%3\n").arg(rows).arg(kind->counted).arg(m_out);

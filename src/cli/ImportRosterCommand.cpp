@@ -2,7 +2,7 @@
 
 #include "cli/Database.h"
 #include "exchange/RosterCsv.h"
-#include "printing/OutputFile.h"
+#include "runtime/OutputGuard.h"
 #include "runtime/ReplacingFile.h"
 
 namespace cli {
@@ -83,7 +83,7 @@ int ImportRosterCommand::writeTemplate(const Streams& streams) const {
     streams.out << QChar(QChar::ByteOrderMark) << QString::fromUtf8(rosterTemplate());
     return Done;
   }
-  refuseOwnFile(m_file);
+  runtime::requireFreeForOutput(m_file);
   runtime::replaceFile(m_file, rosterTemplate());
   streams.out << QStringLiteral("已写入空白名单：%1\n").arg(m_file);
   return Done;

@@ -10,8 +10,8 @@
 #include "exchange/MonthWorkbook.h"
 #include "foundation/clsSchoolArea.h"
 #include "printing/EmployeeMonthReport.h"
-#include "printing/OutputFile.h"
 #include "report/Pdf.h"
+#include "runtime/OutputGuard.h"
 
 namespace cli {
 
@@ -96,7 +96,7 @@ bool MonthCommand::drawsPictures() const {
 
 int MonthCommand::run(const Streams& streams) {
   const auto connection = openDatabase();
-  refuseOwnFile(m_out);
+  runtime::requireFreeForOutput(m_out);
   const AttendanceMonth month = *AttendanceMonth::parse(m_month);
   const int employees = kindOf(m_out)->write(month, clsSchoolArea().SNAME(), m_out);
   streams.out << QStringLiteral("已写入 %1 的考勤（有记录的员工 %2 名）：%3\n")

@@ -1,7 +1,9 @@
 #include "printing/OutputFile.h"
 
+#include <algorithm>
 #include <sys/stat.h>
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -13,9 +15,21 @@
 
 namespace {
 
-/// Also by way of links.
+/// What the engine puts beside the database while it works.
+const QStringList companions{QStringLiteral("-journal"), QStringLiteral("-wal"), QStringLiteral("-shm")};
+
+/// The path behind all links, as far as it exists; the last part may not exist yet.
+QString resolved(const QString& path) {
+  const QFileInfo file(path);
+  if (file.exists()) return file.canonicalFilePath();
+  const QString directory = QFileInfo(file.absolutePath()).canonicalFilePath();
+  return directory.isEmpty() ? QDir::cleanPath(file.absoluteFilePath())
+                             : QDir(directory).filePath(file.fileName());
+}
+
+/// Also by way of links, and where neither exists yet.
 bool isSameFile(const QString& a, const QString& b) {
-  if (QFileInfo(a).absoluteFilePath() == QFileInfo(b).absoluteFilePath()) return true;
+  if (resolved(a).compare(resolved(b), Qt::CaseInsensitive) == 0) return true;
   struct stat first {};
   struct stat second {};
   return ::stat(QFile::encodeName(a).constData(), &first) == 0 &&
@@ -23,24 +37,43 @@ bool isSameFile(const QString& a, const QString& b) {
          first.st_ino == second.st_ino;
 }
 
+QStringList ownFiles() {
+  QStringList own{databaseFile(), settingsFile(), runtime::appFile(QStringLiteral("HELP.CHM")),
+                  clsLogo().GetPath()};
+  for (const QString& ending : companions) own.append(databaseFile() + ending);
+  own.removeAll(QString());
+  return own;
+}
+
+/// Whether employees' photo files, or the picture of an import, may come and go under that name.
 bool isPhotoFile(const QString& path) {
-  const QFileInfo info(path);
-  return info.suffix().compare(QLatin1String("jpg"), Qt::CaseInsensitive) == 0 &&
-         isSameFile(info.absolutePath(), runtime::AppPath());
+  return path.endsWith(QStringLiteral(".jpg"), Qt::CaseInsensitive) &&
+         isSameFile(QFileInfo(path).path(), runtime::AppPath());
+}
+
+bool isHelpPage(const QString& path) {
+  return isSameFile(QFileInfo(path).path(), runtime::appFile(QStringLiteral("help")));
+}
+
+void refuseTarget(const QString& path, const QString& target) {
+  const QStringList own = ownFiles();
+  const bool taken = std::any_of(own.begin(), own.end(),
+                                 [&target](const QString& file) { return isSameFile(target, file); });
+  if (taken || isHelpPage(target)) {
+    throw runtime::RuntimeError(runtime::ErrorNumber::FileAccess,
+                                QStringLiteral("“%1”是程序自己的文件，不能用作输出").arg(path));
+  }
+  if (isPhotoFile(target)) {
+    throw runtime::RuntimeError(runtime::ErrorNumber::FileAccess,
+                                QStringLiteral("“%1”是存放照片的位置，不能用作输出").arg(path));
+  }
 }
 
 }  // namespace
 
 void refuseOwnFile(const QString& path) {
-  const QString database = databaseFile();
-  const QStringList own{database, database + QStringLiteral("-journal"), settingsFile(), clsLogo().GetPath()};
-  for (const QString& file : own) {
-    if (file.isEmpty() || !isSameFile(path, file)) continue;
-    throw runtime::RuntimeError(runtime::ErrorNumber::FileAccess,
-                                QStringLiteral("“%1”是程序自己的文件，不能用作输出").arg(path));
-  }
-  if (isPhotoFile(path)) {
-    throw runtime::RuntimeError(runtime::ErrorNumber::FileAccess,
-                                QStringLiteral("“%1”是存放照片的位置，不能用作输出").arg(path));
-  }
+  refuseTarget(path, path);
+  // A link is written through: what it leads to counts, also where nothing is there yet.
+  const QFileInfo file(path);
+  if (file.isSymLink()) refuseTarget(path, file.symLinkTarget());
 }

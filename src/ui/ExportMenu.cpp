@@ -3,10 +3,10 @@
 #include "dialogs/Dialogs.h"
 #include "foundation/Attempt.h"
 #include "graphics/WaitCursor.h"
-#include "printing/OutputFile.h"
 #include "records/RecordExport.h"
 #include "runtime/Clock.h"
 #include "runtime/DefaultText.h"
+#include "runtime/OutputGuard.h"
 #include "ui/ItemKey.h"
 #include "ui/frmMain.h"
 
@@ -30,7 +30,7 @@ int tellExport(const QString& fileName, frmMain& window, const Write& write) {
   QString failure;
   const int rows = attempt(failure, int{notWritten}, [&] {
     const graphics::WaitCursor wait;
-    refuseOwnFile(fileName);
+    runtime::requireFreeForOutput(fileName);
     return write();
   });
   if (rows == notWritten) {

@@ -10,6 +10,7 @@
 #include "preview/DocumentOutput.h"
 #include "printing/MonthPreview.h"
 #include "runtime/Clock.h"
+#include "runtime/OutputGuard.h"
 #include "runtime/RuntimeError.h"
 #include "ui/Controls.h"
 
@@ -150,6 +151,7 @@ void frmMonthReport::Export(const QString& path) const {
     return;
   }
   {
+    runtime::requireFreeForOutput(path);
     const graphics::WaitCursor wait;
     writeMonthWorkbook(loadMonthData(Month(), Unit()), path);
   }

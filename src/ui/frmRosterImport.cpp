@@ -10,6 +10,7 @@
 
 #include "dialogs/Dialogs.h"
 #include "exchange/RosterCsv.h"
+#include "runtime/OutputGuard.h"
 #include "runtime/ReplacingFile.h"
 #include "runtime/RuntimeError.h"
 #include "ui/CancelProgress.h"
@@ -188,6 +189,7 @@ void frmRosterImport::btnTemplate_Click() {
     return;
   }
   try {
+    runtime::requireFreeForOutput(path);
     runtime::replaceFile(path, rosterTemplate());
   } catch (const runtime::RuntimeError& error) {
     tellFailure(error.description());

@@ -9,6 +9,8 @@
 #include "FakePrinters.h"
 #include "SampleReport.h"
 #include "preview/DocumentOutput.h"
+#include "runtime/OutputGuard.h"
+#include "runtime/RuntimeError.h"
 #include "support/Files.h"
 #include "support/ScriptedBoxes.h"
 
@@ -97,4 +99,16 @@ TEST_F(DocumentOutputTest, AJobThatFailsIsTold) {
   boxes.expectMessage(nowhere);
   print(3, nowhere);
   EXPECT_EQ(boxes.messages()[0].style, dialogs::Exclamation);
+}
+
+TEST_F(DocumentOutputTest, AFileThatMustNotBeOverwrittenIsNot) {
+  support::writeFile(file, "kept");
+  const runtime::OutputGuard before = runtime::installOutputGuard([](const QString& path) {
+    throw runtime::RuntimeError(runtime::ErrorNumber::FileAccess, QStringLiteral("不可覆盖") + path);
+  });
+  boxes.expectFile({file});
+  boxes.expectMessage(QStringLiteral("不可覆盖") + file);
+  DocumentOutput(sampleDocument(1), std::make_unique<FakePrinters>(file), &window).saveAsPdf();
+  runtime::installOutputGuard(before);
+  EXPECT_EQ(support::contentOf(file), "kept");
 }

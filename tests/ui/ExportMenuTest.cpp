@@ -1,5 +1,7 @@
 #include "MainWindowTest.h"
 #include "ado/Recordset.h"
+#include "printing/OutputFile.h"
+#include "runtime/OutputGuard.h"
 #include "support/Files.h"
 #include "support/FixedClock.h"
 #include "ui/ExportMenu.h"
@@ -87,7 +89,9 @@ TEST_F(ExportMenu, AFailureKeepsTheOlderFileAndTheStatusBarSaysWhy) {
   select({0});
   refused(home.file(QStringLiteral("none/out.xml")), QStringLiteral("none/out.xml"));
   const QByteArray database = support::contentOf(home.databaseFile());
+  const runtime::OutputGuard before = runtime::installOutputGuard(refuseOwnFile);
   refused(home.databaseFile(), QStringLiteral("程序自己的文件"));
+  runtime::installOutputGuard(before);
   EXPECT_EQ(support::contentOf(home.databaseFile()), database);
   execute(QStringLiteral("UPDATE Employee SET ENAME = 'a' || char(1)"));
   refused(file, QStringLiteral("ENAME"));

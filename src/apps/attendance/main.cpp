@@ -6,6 +6,8 @@
 #include "foundation/GlobalDefine.h"
 #include "foundation/HelpFiles.h"
 #include "foundation/mdMain.h"
+#include "printing/OutputFile.h"
+#include "runtime/OutputGuard.h"
 #include "runtime/ProgramDirectory.h"
 #include "runtime/RuntimeError.h"
 #include "shell/DesktopShell.h"
@@ -59,6 +61,7 @@ int run(const QCommandLineParser& parser) {
   // Nobody sits before a screenshot: messages go to standard error.
   if (screenshot.isEmpty()) dialogs::installHost(&boxes);
   shell::installHost(&desktop);
+  runtime::installOutputGuard(refuseOwnFile);
 
   const bool started = Main([&screenshot] {
     refreshHelp();

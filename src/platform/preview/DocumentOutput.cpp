@@ -8,6 +8,7 @@
 #include "dialogs/Dialogs.h"
 #include "graphics/WaitCursor.h"
 #include "report/Pdf.h"
+#include "runtime/OutputGuard.h"
 #include "runtime/RuntimeError.h"
 
 namespace preview {
@@ -96,6 +97,7 @@ void DocumentOutput::saveAsPdf() {
   const QStringList chosen = dialogs::chooseFile(box);
   if (chosen.isEmpty()) return;
   try {
+    runtime::requireFreeForOutput(chosen.first());
     const graphics::WaitCursor wait;
     report::writePdf(m_document, chosen.first());
   } catch (const runtime::RuntimeError& error) {
