@@ -35,7 +35,8 @@ QDateTime wholeSeconds(const QDateTime& moment) {
   return moment.addMSecs(-moment.time().msec());
 }
 
-SignInAnswer answer(std::int16_t result, const QDateTime& moment, const QString& failure, int seconds = 0) {
+SignInAnswer answer(std::int16_t result, const QDateTime& moment, const runtime::Failure& failure,
+                    int seconds = 0) {
   return {result, textOf(result, seconds), moment, failure};
 }
 
@@ -45,7 +46,8 @@ std::shared_ptr<ado::Connection> connectionToFile() {
   if (!CheckDatabaseFile()) {
     gConnection.reset();
     throw runtime::RuntimeError(runtime::ErrorNumber::FileNotFound,
-                                QStringLiteral("找不到数据库文件：%1").arg(databaseFile()));
+                                QStringLiteral("找不到数据库文件：%1").arg(databaseFile()),
+                                runtime::FailureKind::Missing);
   }
   auto connection = clsDbConn().GetDbConn();
   std::ignore = ado::required(connection).State();
@@ -56,7 +58,7 @@ SignInAnswer apply(ado::Transaction& transaction, const QString& number, const Q
   clsPresence presence;
   presence.setENUMBER(number);
   std::int16_t result = presence.Add(now);
-  QString failure = presence.lastFailure();
+  runtime::Failure failure{presence.lastFailure(), presence.lastFailureKind()};
   if (result == clsPresence::SignInWritten || result == clsPresence::SignOutWritten) {
     result = attempt(failure, std::int16_t{clsPresence::WriteFailed}, [&] {
       transaction.commit();
@@ -72,7 +74,7 @@ SignIn::SignIn() : SignIn([](std::chrono::milliseconds time) { std::this_thread:
 
 SignInAnswer SignIn::sign(const QString& number) const {
   SignInAnswer given;
-  QString failure;
+  runtime::Failure failure;
   const bool ran = attempt(failure, false, [&] {
     const std::shared_ptr<ado::Connection> connection = connectionToFile();
     given = signOn(*connection, number);
@@ -101,7 +103,7 @@ SignInAnswer SignIn::unknown(const QString& code) {
   return {SignInAnswer::unknownCard, QStringLiteral("未登记的卡号：%1").arg(code), runtime::now(), {}};
 }
 
-SignInAnswer SignIn::failed(const QString& why) {
+SignInAnswer SignIn::failed(const runtime::Failure& why) {
   return answer(clsPresence::NotChecked, runtime::now(), why);
 }
 

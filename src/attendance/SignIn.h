@@ -8,6 +8,8 @@
 #include <QDateTime>
 #include <QString>
 
+#include "runtime/RuntimeError.h"
+
 namespace ado {
 class Connection;
 }
@@ -24,7 +26,7 @@ struct SignInAnswer {
   /// When the rule ran, and what it wrote if it wrote.
   QDateTime moment{};
   /// What went wrong, for whoever looks after the program; empty when nothing did.
-  QString failure{};
+  runtime::Failure failure{};
 
   /// Whether the rule gave its answer, be it that nothing was to be written.
   [[nodiscard]] bool succeeded() const { return result > 0; }
@@ -49,7 +51,7 @@ class SignIn {
   /// The answer to a code that is nobody's.
   [[nodiscard]] static SignInAnswer unknown(const QString& code);
   /// The answer when it could not be found out whose a card is.
-  [[nodiscard]] static SignInAnswer failed(const QString& why);
+  [[nodiscard]] static SignInAnswer failed(const runtime::Failure& why);
 
  private:
   [[nodiscard]] SignInAnswer signOn(ado::Connection& connection, const QString& number) const;

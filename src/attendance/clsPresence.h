@@ -6,6 +6,7 @@
 #include <QString>
 
 #include "runtime/DefaultText.h"
+#include "runtime/RuntimeError.h"
 
 /// One employee's working day: a row of table Presence, and the rule that every program keeps which writes to
 /// that table: one sign-in a day, a repeated scan within 60 seconds ignored, the first sign-out final.
@@ -54,7 +55,8 @@ class clsPresence {
   /// operations above found JustSignedIn; otherwise 0.
   [[nodiscard]] int secondsLeft() const { return m_secondsLeft; }
   /// The error that ended the last of the operations above; empty when none did.
-  [[nodiscard]] const QString& lastFailure() const { return m_lastFailure; }
+  [[nodiscard]] const QString& lastFailure() const { return m_lastFailure.words; }
+  [[nodiscard]] runtime::FailureKind lastFailureKind() const { return m_lastFailure.kind; }
 
  private:
   /// What the operations above share: today is the day of `now`.
@@ -66,5 +68,5 @@ class clsPresence {
   QDateTime m_enterTime = runtime::zeroDateTime();
   QString m_enumber;
   int m_secondsLeft = 0;
-  QString m_lastFailure;
+  runtime::Failure m_lastFailure;
 };

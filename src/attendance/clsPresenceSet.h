@@ -7,6 +7,7 @@
 
 #include "attendance/clsPresence.h"
 #include "runtime/KeyedCollection.h"
+#include "runtime/RuntimeError.h"
 
 /// Sign-in records in order, each under an optional key.
 class clsPresenceSet {
@@ -30,9 +31,10 @@ class clsPresenceSet {
   [[nodiscard]] auto end() const { return m_members.end(); }
 
   /// The error that ended the last loading; empty when none did.
-  [[nodiscard]] const QString& lastFailure() const { return m_lastFailure; }
+  [[nodiscard]] const QString& lastFailure() const { return m_lastFailure.words; }
+  [[nodiscard]] runtime::FailureKind lastFailureKind() const { return m_lastFailure.kind; }
 
  private:
   runtime::KeyedCollection<clsPresence> m_members;
-  QString m_lastFailure;
+  runtime::Failure m_lastFailure;
 };

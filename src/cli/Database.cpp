@@ -15,8 +15,7 @@ std::shared_ptr<ado::Connection> openDatabase() {
     std::ignore = ado::required(connection).State();
   } catch (const runtime::RuntimeError& error) {
     if (!GetDataPath().isEmpty()) throw;
-    throw runtime::RuntimeError(
-        error.number(),
+    throw error.reworded(
         QStringLiteral("%1（设置文件“%2”没有指明数据库的目录）").arg(error.description(), settingsFile()));
   }
   return connection;

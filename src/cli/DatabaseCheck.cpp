@@ -15,8 +15,6 @@ namespace cli {
 
 namespace {
 
-// The engine's number for a page that cannot be read.
-constexpr int damagedPage = 11;
 constexpr qint64 largestDepartment = std::numeric_limits<std::int16_t>::max();
 
 QString oneLine(QString text) {
@@ -127,7 +125,7 @@ void DatabaseCheck::checkPhoto(const QString& who, const ado::Field& photo) {
   try {
     bytes = photo.Value().toByteArray();
   } catch (const ado::AdoError& error) {
-    if (error.number() != damagedPage) throw;
+    if (error.kind() != runtime::FailureKind::Damaged) throw;
     // Where a page is damaged the other photos may still be read.
     m_report(who + QStringLiteral("照片无法读取：") + error.description());
     return;

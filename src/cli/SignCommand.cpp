@@ -33,7 +33,7 @@ bool sign(const QString& code, const Streams& streams) {
               << '\t' << cell(name) << '\n';
   // Whoever feeds the codes in one by one waits for the answer.
   streams.out.flush();
-  for (const QString& failure : {answer.failure, holder.photoFailure}) {
+  for (const QString& failure : {answer.failure.words, holder.photoFailure}) {
     if (!failure.isEmpty()) streams.err << cell(code) << QStringLiteral("：") << failure << '\n';
   }
   return answer.succeeded();

@@ -11,5 +11,5 @@ CardHolder findCardHolder(const QString& barcode) {
   if (result == clsEmployee::Found) return {.employee = employee};
   // The number is the last of the texts that come out of the row: only the photo comes after it.
   if (!employee->ENUMBER().isEmpty()) return {.employee = employee, .photoFailure = failure};
-  return {.failure = failure};
+  return {.failure = {failure, employee->lastFailureKind()}};
 }

@@ -27,8 +27,7 @@ auto valueOf(ado::Recordset& row, const QString& column, const QString& what, co
   try {
     return convert(value);
   } catch (const runtime::RuntimeError& error) {
-    throw runtime::RuntimeError(error.number(),
-                                QStringLiteral("列“%1”：%2").arg(column, error.description()));
+    throw error.reworded(QStringLiteral("列“%1”：%2").arg(column, error.description()));
   }
 }
 

@@ -41,10 +41,9 @@ QString writePhotoFile(const QString& number, const QVariant& image) {
     savePhoto(image, path);
   } catch (const runtime::RuntimeError& error) {
     const QString& why = error.description();
-    throw runtime::RuntimeError(error.number(),
-                                runtime::isNull(image)
-                                    ? QStringLiteral("编号为[%1]的员工没有照片：%2").arg(number, why)
-                                    : cannotWrite(number, why));
+    throw error.reworded(runtime::isNull(image)
+                             ? QStringLiteral("编号为[%1]的员工没有照片：%2").arg(number, why)
+                             : cannotWrite(number, why));
   }
   return path;
 }

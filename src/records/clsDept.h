@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include "runtime/RuntimeError.h"
+
 /// One department: a row of table Dept. Assigning the number or the name loads the row by it.
 class clsDept {
  public:
@@ -33,7 +35,8 @@ class clsDept {
 
   /// The error that ended the last of the operations above or the count of employees in it; empty when none
   /// did.
-  [[nodiscard]] const QString& lastFailure() const { return m_lastFailure; }
+  [[nodiscard]] const QString& lastFailure() const { return m_lastFailure.words; }
+  [[nodiscard]] runtime::FailureKind lastFailureKind() const { return m_lastFailure.kind; }
 
  private:
   void CountEmployees();
@@ -42,5 +45,5 @@ class clsDept {
   QString m_name;
   QString m_password;
   std::int16_t m_employeeCount = 0;
-  QString m_lastFailure;
+  runtime::Failure m_lastFailure;
 };

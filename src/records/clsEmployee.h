@@ -7,6 +7,7 @@
 
 #include "runtime/DefaultText.h"
 #include "runtime/Random.h"
+#include "runtime/RuntimeError.h"
 
 /// One employee: a row of table Employee with the name of the department. Loading writes the photo to the
 /// file named by HeadImg; the object deletes that file when it goes, whatever it is, so no path of a file
@@ -62,7 +63,8 @@ class clsEmployee {
   [[nodiscard]] QString CreateRandomCode();
 
   /// The error that ended the last of the operations above; empty when none did.
-  [[nodiscard]] const QString& lastFailure() const { return m_lastFailure; }
+  [[nodiscard]] const QString& lastFailure() const { return m_lastFailure.words; }
+  [[nodiscard]] runtime::FailureKind lastFailureKind() const { return m_lastFailure.kind; }
 
  private:
   /// What an employee is loaded by.
@@ -81,6 +83,6 @@ class clsEmployee {
   QString m_ename;
   QString m_ebarcode;
   std::int32_t m_id = 0;
-  QString m_lastFailure;
+  runtime::Failure m_lastFailure;
   runtime::Random m_random;
 };

@@ -46,9 +46,8 @@ void fillOrName(clsEmployee& employee, const Columns& row) {
   try {
     fill(employee, row);
   } catch (const runtime::RuntimeError& error) {
-    throw runtime::RuntimeError(error.number(),
-                                QStringLiteral("编号为[%1]的员工无法载入：%2")
-                                    .arg(row.enumber.Value().toString(), error.description()));
+    throw error.reworded(QStringLiteral("编号为[%1]的员工无法载入：%2")
+                             .arg(row.enumber.Value().toString(), error.description()));
   }
 }
 
@@ -57,9 +56,8 @@ QVariant photoOrName(const Columns& row) {
   try {
     return row.headImg.Value();
   } catch (const runtime::RuntimeError& error) {
-    throw runtime::RuntimeError(error.number(),
-                                QStringLiteral("编号为[%1]的员工的照片无法读取：%2")
-                                    .arg(row.enumber.Value().toString(), error.description()));
+    throw error.reworded(QStringLiteral("编号为[%1]的员工的照片无法读取：%2")
+                             .arg(row.enumber.Value().toString(), error.description()));
   }
 }
 

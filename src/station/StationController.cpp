@@ -1,6 +1,5 @@
 #include "station/StationController.h"
 
-#include "ado/AdoError.h"
 #include "attendance/clsPresence.h"
 #include "foundation/GlobalDefine.h"
 #include "foundation/mdMain.h"
@@ -34,9 +33,19 @@ Kind kindOf(std::int16_t result) {
   }
 }
 
+StationAnswer busy(const QString& why) {
+  return {.kind = Kind::Busy,
+          .text = QStringLiteral("正忙，请再刷一次"),
+          .moment = runtime::now(),
+          .failure = why};
+}
+
 StationAnswer told(const SignInAnswer& answer) {
-  return {
-      .kind = kindOf(answer.result), .text = answer.text, .moment = answer.moment, .failure = answer.failure};
+  const Kind kind = kindOf(answer.result);
+  if (kind == Kind::Failed && answer.failure.kind == runtime::FailureKind::Busy) {
+    return busy(answer.failure.words);
+  }
+  return {.kind = kind, .text = answer.text, .moment = answer.moment, .failure = answer.failure.words};
 }
 
 void addHolder(StationAnswer& answer, const CardHolder& holder) {
@@ -57,16 +66,11 @@ void addHolder(StationAnswer& answer, const CardHolder& holder) {
 
 StationAnswer StationController::scan(const QString& code) {
   if (!isCardCode(code)) return told(SignIn::unknown(code));
-  if (!findDatabase()) return busy();
+  if (!findDatabase()) return busy(m_trouble);
   StationAnswer answer = answerFor(findCardHolder(code), code);
   if (answer.kind == Kind::SignedIn) m_figures.add(answer.moment);
   if (answer.kind != Kind::Failed) return answer;
-  if (!findDatabase() || ado::tellsOfBusyFile(answer.failure)) {
-    const QString why = answer.failure;
-    answer = busy();
-    answer.failure = why;
-    return answer;
-  }
+  if (!findDatabase()) return busy(answer.failure);
   // The file may have been exchanged for another: the next scan is to open it anew.
   gConnection.reset();
   return answer;
@@ -76,15 +80,8 @@ StationAnswer StationController::answerFor(const CardHolder& holder, const QStri
   if (!holder.failure.isEmpty()) return told(SignIn::failed(holder.failure));
   if (!holder.employee) return told(SignIn::unknown(code));
   StationAnswer answer = told(m_signIn.sign(holder.employee->ENUMBER()));
-  addHolder(answer, holder);
+  if (answer.kind != Kind::Busy) addHolder(answer, holder);
   return answer;
-}
-
-StationAnswer StationController::busy() const {
-  return {.kind = Kind::Busy,
-          .text = QStringLiteral("正忙，请再刷一次"),
-          .moment = runtime::now(),
-          .failure = m_trouble};
 }
 
 void StationController::look() {

@@ -31,7 +31,6 @@ class StationController {
   [[nodiscard]] bool findDatabase();
   void readFigures();
   [[nodiscard]] StationAnswer answerFor(const CardHolder& holder, const QString& code);
-  [[nodiscard]] StationAnswer busy() const;
 
   SignIn m_signIn;
   SignInFigures m_figures;

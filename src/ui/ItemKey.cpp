@@ -19,7 +19,7 @@ std::int16_t DeptNumber(const QString& identifier) {
   try {
     return runtime::toInt16(identifier);
   } catch (const runtime::RuntimeError& error) {
-    throw runtime::RuntimeError(
-        error.number(), QStringLiteral("部门号[") + identifier + QStringLiteral("]：") + error.description());
+    throw error.reworded(QStringLiteral("部门号[") + identifier + QStringLiteral("]：") +
+                         error.description());
   }
 }

@@ -61,12 +61,14 @@ class AdoFile : public ::testing::Test {
     return values.join(u',');
   }
 
-  /// The number of the AdoError that `work` throws, 0 when it throws none; `words` gets the description.
+  /// The number of the AdoError that `work` throws, 0 when it throws none; `words` gets the description,
+  /// `kind` the kind.
   int failure(const std::function<void()>& work) {
     try {
       work();
     } catch (const ado::AdoError& error) {
       words = error.description();
+      kind = error.kind();
       return error.number();
     }
     return 0;
@@ -77,6 +79,7 @@ class AdoFile : public ::testing::Test {
   QTemporaryDir directory;
   store::SqlCipherEngine engine{std::chrono::milliseconds(150)};
   QString words;
+  runtime::FailureKind kind = runtime::FailureKind::Other;
 
  private:
   store::Engine* m_before;

@@ -77,7 +77,7 @@ TEST_F(SigningIn, WhatCannotBeStoredIsNotCalledStored) {
     const SignInAnswer full = sign();
     EXPECT_EQ(full.result, clsPresence::WriteFailed);
     EXPECT_EQ(full.text, QStringLiteral("记录失败，请联系管理员"));
-    EXPECT_NE(full.failure, QString());
+    EXPECT_NE(full.failure.words, QString());
   }
   EXPECT_EQ(rows(), "A1 2026-11-16 08:00:00 -");
   EXPECT_EQ(sign().result, clsPresence::SignOutWritten);
@@ -91,7 +91,7 @@ TEST_F(SigningIn, AFileThatIsGoneIsNoticedAndTakenUpWhenItIsBack) {
   const SignInAnswer gone = sign();
   EXPECT_EQ(gone.result, clsPresence::NotChecked);
   EXPECT_FALSE(gone.succeeded());
-  EXPECT_TRUE(gone.failure.contains(m_home.databaseFile()));
+  EXPECT_TRUE(gone.failure.words.contains(m_home.databaseFile()));
   ASSERT_TRUE(QFile::rename(away, m_home.databaseFile()));
   EXPECT_EQ(sign().result, clsPresence::SignOutWritten);
 }

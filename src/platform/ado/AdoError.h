@@ -18,12 +18,9 @@ enum class AdoErrorNumber {
 class AdoError : public runtime::RuntimeError {
  public:
   using RuntimeError::RuntimeError;
-  AdoError(AdoErrorNumber number, const QString& description)
-      : RuntimeError(static_cast<int>(number), description) {}
+  AdoError(AdoErrorNumber number, const QString& description,
+           runtime::FailureKind kind = runtime::FailureKind::Other)
+      : RuntimeError(static_cast<int>(number), description, kind) {}
 };
-
-/// Whether `description`, that of an AdoError, says that another program held the file until the wait for it
-/// was over: the same may well succeed a moment later.
-[[nodiscard]] bool tellsOfBusyFile(const QString& description);
 
 }  // namespace ado

@@ -13,8 +13,8 @@ namespace ado {
 namespace {
 
 /// Why the last opening of a connection failed; empty when it did not.
-QString& lastFailure() {
-  static QString reason;
+runtime::Failure& lastFailure() {
+  static runtime::Failure reason;
   return reason;
 }
 
@@ -39,7 +39,7 @@ void Connection::Open(const QString& connectionString, const QString&, const QSt
     });
     lastFailure().clear();
   } catch (const AdoError& error) {
-    lastFailure() = error.description();
+    lastFailure() = {error.description(), error.kind()};
     throw;
   }
 }
@@ -82,10 +82,11 @@ QStringList Connection::CheckPages() {
 
 const std::shared_ptr<store::Database>& Connection::database() const {
   if (m_database == nullptr) {
-    const QString reason = lastFailure();
+    const runtime::Failure& reason = lastFailure();
     throw AdoError(AdoErrorNumber::ConnectionNotOpen,
                    reason.isEmpty() ? QStringLiteral("数据库连接没有打开")
-                                    : QStringLiteral("数据库连接没有打开：%1").arg(reason));
+                                    : QStringLiteral("数据库连接没有打开：%1").arg(reason.words),
+                   reason.kind);
   }
   return m_database;
 }

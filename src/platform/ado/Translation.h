@@ -6,7 +6,7 @@
 
 namespace ado {
 
-/// Runs `work` and turns any failure of the layers below into an AdoError of the same number and words.
+/// Runs `work` and turns any failure of the layers below into an AdoError of the same number, kind and words.
 template <typename Work>
 auto translatingErrors(Work&& work) -> decltype(work()) {
   try {
@@ -14,7 +14,7 @@ auto translatingErrors(Work&& work) -> decltype(work()) {
   } catch (const AdoError&) {
     throw;
   } catch (const runtime::RuntimeError& error) {
-    throw AdoError(error.number(), error.description());
+    throw AdoError(error.number(), error.description(), error.kind());
   }
 }
 

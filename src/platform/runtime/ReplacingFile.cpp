@@ -15,8 +15,9 @@ namespace runtime {
 
 namespace {
 
-[[noreturn]] void refuse(ErrorNumber number, const QString& path, const QString& why) {
-  throw RuntimeError(number, QStringLiteral("无法写入文件“%1”：%2").arg(path, why));
+[[noreturn]] void refuse(ErrorNumber number, const QString& path, const QString& why,
+                         FailureKind kind = FailureKind::Refused) {
+  throw RuntimeError(number, QStringLiteral("无法写入文件“%1”：%2").arg(path, why), kind);
 }
 
 /// The directory that holds the file, behind a symbolic link the one that holds its target.
@@ -45,11 +46,14 @@ void syncDirectoryOf(const QString& path) {
 
 ReplacingFile::ReplacingFile(const QString& path) : m_file(path) {
   refuseOtherThanFile(path);
-  if (isReadOnly(path)) refuse(ErrorNumber::FileAccess, path, QStringLiteral("文件是只读的"));
+  if (isReadOnly(path))
+    refuse(ErrorNumber::FileAccess, path, QStringLiteral("文件是只读的"), FailureKind::ReadOnly);
   const QString directory = directoryOf(path);
-  if (isReadOnly(directory)) refuse(ErrorNumber::FileAccess, path, QStringLiteral("目录是只读的"));
+  if (isReadOnly(directory)) {
+    refuse(ErrorNumber::FileAccess, path, QStringLiteral("目录是只读的"), FailureKind::ReadOnly);
+  }
   if (::access(QFile::encodeName(directory).constData(), W_OK) != 0) {
-    refuse(ErrorNumber::FileAccess, path, systemWords(errno));
+    refuse(ErrorNumber::FileAccess, path, systemWords(errno), systemFailureKind(errno));
   }
   if (!m_file.open(QIODevice::WriteOnly)) {
     refuse(ErrorNumber::FileAccess, path, systemWords(m_file.errorString()));
@@ -64,7 +68,7 @@ void ReplacingFile::write(const QByteArray& bytes) {
 void ReplacingFile::refuseWriting() {
   // The file forgets the system's reason when it gives up.
   const QString why = errno == 0 ? systemWords(m_file.errorString()) : systemWords(errno);
-  refuse(ErrorNumber::FileIo, m_file.fileName(), why);
+  refuse(ErrorNumber::FileIo, m_file.fileName(), why, systemFailureKind(errno));
 }
 
 void ReplacingFile::commit() {

@@ -2,10 +2,14 @@
 
 namespace runtime {
 
-RuntimeError::RuntimeError(int number, const QString& description)
-    : m_number(number), m_description(description), m_what(description.toUtf8()) {}
+RuntimeError::RuntimeError(int number, const QString& description, FailureKind kind)
+    : m_number(number), m_kind(kind), m_description(description), m_what(description.toUtf8()) {}
 
-RuntimeError::RuntimeError(ErrorNumber number, const QString& description)
-    : RuntimeError(static_cast<int>(number), description) {}
+RuntimeError::RuntimeError(ErrorNumber number, const QString& description, FailureKind kind)
+    : RuntimeError(static_cast<int>(number), description, kind) {}
+
+RuntimeError RuntimeError::reworded(const QString& description) const {
+  return {m_number, description, m_kind};
+}
 
 }  // namespace runtime

@@ -41,4 +41,23 @@ QString systemWords(const QString& errorString) {
   return errorString;
 }
 
+FailureKind systemFailureKind(int code) {
+  switch (code) {
+    case EACCES:
+    case EPERM:
+      return FailureKind::Refused;
+    case ENOENT:
+    case ENOTDIR:
+      return FailureKind::Missing;
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+      return FailureKind::Full;
+    case EROFS:
+      return FailureKind::ReadOnly;
+    default:
+      return FailureKind::Other;
+  }
+}
+
 }  // namespace runtime

@@ -19,13 +19,18 @@ namespace {
 
 constexpr mode_t newFileMode = 0666;
 
-[[noreturn]] void refuse(const QString& target, const QString& why) {
-  throw StoreError(static_cast<int>(StoreCode::CannotOpen),
-                   QStringLiteral("无法创建文件“%1”：%2").arg(target, why));
+using runtime::FailureKind;
+
+[[noreturn]] void refuse(const QString& target, const QString& why, FailureKind kind) {
+  throw StoreError(kind, QStringLiteral("无法创建文件“%1”：%2").arg(target, why));
+}
+
+[[noreturn]] void refuse(const QString& target, int systemCode) {
+  refuse(target, runtime::systemWords(systemCode), runtime::systemFailureKind(systemCode));
 }
 
 [[noreturn]] void refuseExisting(const QString& target) {
-  refuse(target, QStringLiteral("文件已经存在"));
+  refuse(target, QStringLiteral("文件已经存在"), FailureKind::Duplicate);
 }
 
 bool synced(const QString& path, int flags) {
@@ -51,7 +56,9 @@ bool renameToFreeName(const QByteArray& from, const QByteArray& to) {
 
 NewFile::NewFile(const QString& target) : m_target(QFileInfo(target).absoluteFilePath()) {
   if (fileExists(m_target)) refuseExisting(m_target);
-  if (directoryIsReadOnly(m_target)) refuse(m_target, QStringLiteral("目录是只读的"));
+  if (directoryIsReadOnly(m_target)) {
+    refuse(m_target, QStringLiteral("目录是只读的"), FailureKind::ReadOnly);
+  }
   for (int attempt = 0;; ++attempt) {
     m_aside =
         QStringLiteral("%1.%2-%3.part").arg(m_target).arg(QCoreApplication::applicationPid()).arg(attempt);
@@ -61,7 +68,7 @@ NewFile::NewFile(const QString& target) : m_target(QFileInfo(target).absoluteFil
       ::close(handle);
       return;
     }
-    if (errno != EEXIST) refuse(m_target, runtime::systemWords(errno));
+    if (errno != EEXIST) refuse(m_target, errno);
   }
 }
 
@@ -72,10 +79,10 @@ NewFile::~NewFile() {
 }
 
 void NewFile::commit() {
-  if (!synced(m_aside, O_RDWR)) refuse(m_target, runtime::systemWords(errno));
+  if (!synced(m_aside, O_RDWR)) refuse(m_target, errno);
   if (!renameToFreeName(QFile::encodeName(m_aside), QFile::encodeName(m_target))) {
     if (errno == EEXIST) refuseExisting(m_target);
-    refuse(m_target, runtime::systemWords(errno));
+    refuse(m_target, errno);
   }
   m_committed = true;
   // The new name is durable only when the directory that holds it is synced too. Some file systems cannot

@@ -10,7 +10,7 @@ QString meaning(int code) {
   switch (code) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
-      return busyWords();
+      return QStringLiteral("数据库正被其他程序占用");
     case SQLITE_READONLY:
       return QStringLiteral("数据库是只读的");
     case SQLITE_FULL:
@@ -30,13 +30,32 @@ QString meaning(int code) {
 
 }  // namespace
 
-QString busyWords() {
-  return QStringLiteral("数据库正被其他程序占用");
+runtime::FailureKind failureKind(int code) {
+  using runtime::FailureKind;
+  switch (code & 0xFF) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+      return FailureKind::Busy;
+    case SQLITE_READONLY:
+      return FailureKind::ReadOnly;
+    case SQLITE_FULL:
+      return FailureKind::Full;
+    case SQLITE_CORRUPT:
+      return FailureKind::Damaged;
+    case SQLITE_NOTADB:
+      return FailureKind::WrongPassword;
+    case SQLITE_CONSTRAINT:
+    case SQLITE_PERM:
+    case SQLITE_AUTH:
+      return FailureKind::Refused;
+    default:
+      return FailureKind::Other;
+  }
 }
 
 void throwEngineError(int code, const QString& words) {
   const int primary = code & 0xFF;
-  throw StoreError(primary, QStringLiteral("%1（%2）").arg(meaning(primary), words));
+  throw StoreError(failureKind(code), QStringLiteral("%1（%2）").arg(meaning(primary), words), primary);
 }
 
 void throwEngineError(sqlite3* handle) {

@@ -6,6 +6,8 @@
 
 #include <QString>
 
+#include "runtime/RuntimeError.h"
+
 /// What the files of the SQLCipher engine share. Nothing else sees the engine's header.
 namespace store {
 
@@ -14,6 +16,8 @@ struct HandleCloser {
 };
 using Handle = std::unique_ptr<sqlite3, HandleCloser>;
 
+/// What a result code of the engine means.
+[[nodiscard]] runtime::FailureKind failureKind(int code);
 /// Throws the StoreError for `code`, with the engine's own words.
 [[noreturn]] void throwEngineError(int code, const QString& words);
 /// As above, for what last failed on `handle`.

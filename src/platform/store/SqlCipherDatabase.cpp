@@ -87,7 +87,7 @@ QStringList SqlCipherDatabase::checkPages() {
     SqlCipherStatement check(fresh.get(), QStringLiteral("PRAGMA integrity_check"));
     while (check.step()) findings += check.value(0).toString().split(u'\n', Qt::SkipEmptyParts);
   } catch (const StoreError& error) {
-    if (error.number() == static_cast<int>(StoreCode::Busy)) throw;
+    if (error.kind() == runtime::FailureKind::Busy) throw;
     if (findings.isEmpty()) findings.append(error.description());
   }
   return findings == QStringList{QStringLiteral("ok")} ? QStringList() : withoutSequels(findings);

@@ -50,7 +50,7 @@ std::string firstBytes(sqlite3* handle, std::size_t count) {
 }
 
 [[noreturn]] void refuse(const QString& description) {
-  throw StoreError(static_cast<int>(StoreCode::NotADatabase), description);
+  throw StoreError(runtime::FailureKind::Foreign, description);
 }
 
 void refuseOtherFormats(sqlite3* handle, const QString& path) {
@@ -100,8 +100,10 @@ void requireTables(sqlite3* handle, const QString& path) {
     if (code != SQLITE_NOTADB && code != SQLITE_CORRUPT) throwEngineError(handle);
     const QString why = code == SQLITE_NOTADB ? QStringLiteral("密码不正确，或者文件已损坏、不是数据库")
                                               : QStringLiteral("文件已损坏");
-    throw StoreError(code, QStringLiteral("无法打开数据库“%1”：%2（%3）")
-                               .arg(path, why, QString::fromUtf8(sqlite3_errmsg(handle))));
+    throw StoreError(failureKind(code),
+                     QStringLiteral("无法打开数据库“%1”：%2（%3）")
+                         .arg(path, why, QString::fromUtf8(sqlite3_errmsg(handle))),
+                     code);
   }
   if (tables == 0) refuse(QStringLiteral("数据库“%1”中没有任何表").arg(path));
 }
@@ -121,7 +123,7 @@ Handle openExisting(const Opening& opening) {
 
 Handle openEmpty(const Opening& opening) {
   if (opening.password.isEmpty()) {
-    throw StoreError(static_cast<int>(StoreCode::Failed), QStringLiteral("数据库密码不能为空"));
+    throw StoreError(runtime::FailureKind::Refused, QStringLiteral("数据库密码不能为空"));
   }
   Handle handle = openHandle(opening);
   setKey(handle.get(), opening.password);

@@ -7,7 +7,7 @@ namespace store {
 namespace {
 
 [[noreturn]] void refuse(const QString& why) {
-  throw StoreError(static_cast<int>(StoreCode::Failed), QStringLiteral("SQL 语句无效：%1").arg(why));
+  throw StoreError(runtime::FailureKind::Other, QStringLiteral("SQL 语句无效：%1").arg(why));
 }
 
 bool isWordStart(QChar c) {

@@ -4,25 +4,13 @@
 
 namespace store {
 
-/// A failure of the engine (its own result code) or of the files around it, with the engine's own words in
-/// the description.
+/// A failure of the engine or of the files around it, with the engine's own words in the description and its
+/// own result code, where there is one, as the number.
 class StoreError : public runtime::RuntimeError {
  public:
-  using RuntimeError::RuntimeError;
-};
-
-/// The words in every description of a file that another program held until the wait for it was over.
-[[nodiscard]] QString busyWords();
-
-/// Result codes that callers tell apart; they are the engine's.
-enum class StoreCode {
-  Failed = 1,
-  Busy = 5,
-  ReadOnly = 8,
-  Damaged = 11,
-  Full = 13,
-  CannotOpen = 14,
-  NotADatabase = 26
+  StoreError(runtime::FailureKind kind, const QString& description,
+             int number = static_cast<int>(runtime::ErrorNumber::InvalidCall))
+      : RuntimeError(number, description, kind) {}
 };
 
 }  // namespace store
