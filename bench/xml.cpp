@@ -6,10 +6,10 @@
 
 #include <QCoreApplication>
 
-#include "ado/PersistedReader.h"
 #include "ado/Recordset.h"
 #include "foundation/GlobalDefine.h"
 #include "foundation/clsDbConn.h"
+#include "persisted/Reader.h"
 #include "runtime/ProgramDirectory.h"
 
 namespace {
@@ -24,7 +24,7 @@ void exportEmployees(const QString& home, const QString& path) {
 
 /// Bytes of all photos.
 qsizetype readEmployees(const QString& path) {
-  ado::PersistedReader reader(path);
+  persisted::Reader reader(path);
   std::vector<QVariant> values;
   qsizetype bytes = 0;
   while (reader.next(values)) {

@@ -10,7 +10,7 @@ import sys
 
 TABLE_HEADING = "## Who may include whom"
 INCLUDE = re.compile(r'^\s*#\s*include\s+([<"])([^>"]+)[>"]', re.MULTILINE)
-CORE_ROOMS = {"runtime", "store", "ado", "profile", "foundation", "records", "attendance"}
+CORE_ROOMS = {"runtime", "store", "persisted", "ado", "profile", "foundation", "records", "attendance"}
 BOXES = re.compile(r"\bQ(?:MessageBox|FileDialog|InputDialog|FontDialog|ColorDialog)\b")
 CLOCKS = re.compile(r"\bcurrent(?:DateTime|DateTimeUtc|Date|Time|MSecsSinceEpoch|SecsSinceEpoch)\s*\(|"
                     r"\bsystem_clock\b|\bgettimeofday\b|\bclock_gettime\b|(?<![\w.>])time\s*\(\s*(?:nullptr|NULL|0|&)")

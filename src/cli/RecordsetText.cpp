@@ -14,7 +14,7 @@ namespace cli {
 
 namespace {
 
-using ado::DataType;
+using persisted::DataType;
 
 struct TypeWords {
   DataType type;
@@ -70,9 +70,9 @@ QString compact(const QJsonObject& object) {
   return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
 }
 
-QStringList uniqueNames(const std::vector<ado::FieldDefinition>& columns) {
+QStringList uniqueNames(const std::vector<persisted::FieldDefinition>& columns) {
   QStringList names;
-  for (const ado::FieldDefinition& column : columns) {
+  for (const persisted::FieldDefinition& column : columns) {
     QString name = column.name;
     for (int number = 2; names.contains(name); ++number) name = column.name + QString::number(number);
     names.append(name);
@@ -97,11 +97,11 @@ class JsonArray {
 
 }  // namespace
 
-void writeTable(ado::PersistedReader& reader, QTextStream& out) {
-  const std::vector<ado::FieldDefinition>& columns = reader.columns();
+void writeTable(persisted::Reader& reader, QTextStream& out) {
+  const std::vector<persisted::FieldDefinition>& columns = reader.columns();
   QStringList headings;
   out << QStringLiteral("列\t类型\t大小\n");
-  for (const ado::FieldDefinition& column : columns) {
+  for (const persisted::FieldDefinition& column : columns) {
     headings.append(cell(column.name));
     out << headings.last() << '\t' << wordsOf(column.type).table << '\t' << column.definedSize << '\n';
   }
@@ -114,8 +114,8 @@ void writeTable(ado::PersistedReader& reader, QTextStream& out) {
   }
 }
 
-void writeJson(ado::PersistedReader& reader, QTextStream& out) {
-  const std::vector<ado::FieldDefinition>& columns = reader.columns();
+void writeJson(persisted::Reader& reader, QTextStream& out) {
+  const std::vector<persisted::FieldDefinition>& columns = reader.columns();
   const QStringList names = uniqueNames(columns);
   out << "{\"columns\":";
   JsonArray described(out);

@@ -2,17 +2,17 @@
 
 #include <QTextStream>
 
-#include "ado/PersistedReader.h"
+#include "persisted/Reader.h"
 
 /// The rest of a persisted recordset as text, written row after row. What is wrong with the file reaches the
-/// caller as an AdoError, and rows before it may have been written by then. Of a binary value only its length
-/// and its SHA-256 are shown.
+/// caller as a RuntimeError, and rows before it may have been written by then. Of a binary value only its
+/// length and its SHA-256 are shown.
 namespace cli {
 
 /// The columns with type and size, an empty line, and the rows below a line of headings.
-void writeTable(ado::PersistedReader& reader, QTextStream& out);
+void writeTable(persisted::Reader& reader, QTextStream& out);
 /// An object with `columns` and `rows`. A row is an object by column name; a name that came before gets a
 /// number behind it.
-void writeJson(ado::PersistedReader& reader, QTextStream& out);
+void writeJson(persisted::Reader& reader, QTextStream& out);
 
 }  // namespace cli

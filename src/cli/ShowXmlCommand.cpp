@@ -20,7 +20,7 @@ std::vector<Option> ShowXmlCommand::options() {
 }
 
 int ShowXmlCommand::run(const Streams& streams) {
-  ado::PersistedReader reader(m_file);
+  persisted::Reader reader(m_file);
   if (m_json) {
     writeJson(reader, streams.out);
   } else {

@@ -3,44 +3,20 @@
 #include <QString>
 #include <QVariant>
 
+#include "persisted/FieldDefinition.h"
+
 namespace ado {
 
-/// Numbers of ADO's DataTypeEnum for the types that the tables use; Boolean and Decimal only come from files.
-enum class DataType {
-  Integer = 3,
-  Double = 5,
-  Date = 7,
-  /// -1 for true, 0 for false.
-  Boolean = 11,
-  /// The digits as text, none lost.
-  Decimal = 14,
-  VarWChar = 202,
-  LongVarBinary = 205,
-};
+using persisted::DataType;
+using persisted::FieldDefinition;
 
-/// What is known of a column beside its values.
-struct FieldDefinition {
-  QString name;
-  DataType type = DataType::VarWChar;
-  /// Characters of a text, bytes of anything else.
-  int definedSize = 0;
-  /// Table and column that the values come from; empty for an expression.
-  QString baseTable;
-  QString baseColumn;
-  /// Part of the table's key.
-  bool key = false;
-  bool autoIncrement = false;
-  bool nullable = true;
-  /// The value may be fetched later than its row (long binaries).
-  bool mayDefer = false;
-};
+class RowSource;
 
-class Recordset;
-
-/// One column of a recordset at its current row. Owned by the recordset and valid as long as it is open.
+/// One column of a recordset at its current row. Owned by its rows, and valid as long as
+/// the recordset is open.
 class Field {
  public:
-  Field(Recordset& owner, int index, FieldDefinition definition);
+  Field(RowSource& rows, int index, FieldDefinition definition);
 
   [[nodiscard]] const QString& Name() const { return m_definition.name; }
   [[nodiscard]] DataType Type() const { return m_definition.type; }
@@ -53,7 +29,7 @@ class Field {
   void setValue(const QVariant& value);
 
  private:
-  Recordset& m_owner;
+  RowSource& m_rows;
   int m_index;
   FieldDefinition m_definition;
 };

@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "ado/AdoError.h"
-#include "ado/PersistedReader.h"
-#include "ado/PersistedWriter.h"
+#include "persisted/Reader.h"
+#include "persisted/Writer.h"
 
 namespace ado {
 
@@ -16,12 +16,12 @@ namespace {
 
 }  // namespace
 
-FileRows::FileRows(Recordset& owner, const QString& path) {
-  PersistedReader reader(path);
+FileRows::FileRows(const QString& path) {
+  persisted::Reader reader(path);
   m_definitions = reader.columns();
   std::vector<QVariant> values;
   while (reader.next(values)) m_rows.push_back(std::move(values));
-  makeFields(owner);
+  makeFields();
 }
 
 void FileRows::moveNext() {
@@ -50,7 +50,7 @@ void FileRows::remove() {
   refuseChange();
 }
 
-void FileRows::writeRows(PersistedWriter& writer) {
+void FileRows::writeRows(persisted::Writer& writer) {
   for (const std::vector<QVariant>& row : m_rows) {
     writer.row([&row](int column) { return row[static_cast<std::size_t>(column)]; });
   }

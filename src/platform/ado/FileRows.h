@@ -9,7 +9,7 @@ namespace ado {
 /// The rows of a persisted recordset, read whole. They cannot be changed.
 class FileRows : public RowSource {
  public:
-  FileRows(Recordset& owner, const QString& path);
+  explicit FileRows(const QString& path);
 
   [[nodiscard]] bool atEnd() const override { return m_current >= m_rows.size(); }
   void moveNext() override;
@@ -22,7 +22,7 @@ class FileRows : public RowSource {
   [[noreturn]] void remove() override;
 
   [[nodiscard]] const std::vector<FieldDefinition>& definitions() const override { return m_definitions; }
-  void writeRows(PersistedWriter& writer) override;
+  void writeRows(persisted::Writer& writer) override;
 
  private:
   std::vector<FieldDefinition> m_definitions;

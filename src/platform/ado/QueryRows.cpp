@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "ado/FieldTypes.h"
-#include "ado/PersistedWriter.h"
 #include "ado/Translation.h"
+#include "persisted/Writer.h"
 #include "store/Dialect.h"
 
 namespace ado {
@@ -27,14 +27,13 @@ QString parameters(std::size_t count) {
 
 }  // namespace
 
-QueryRows::QueryRows(Recordset& owner, const QString& source, std::shared_ptr<Connection> connection,
-                     bool changeable)
+QueryRows::QueryRows(const QString& source, std::shared_ptr<Connection> connection, bool changeable)
     : m_connection(std::move(connection)), m_changeable(changeable) {
   m_database = m_connection->database();
   m_query = analyse(*database(), store::translated(source, store::StatementUse::Query));
   load();
   typeExpressions();
-  makeFields(owner);
+  makeFields();
 }
 
 void QueryRows::load() {
@@ -111,7 +110,7 @@ QVariant QueryRows::fetch(std::size_t row, int column) {
   return value;
 }
 
-void QueryRows::writeRows(PersistedWriter& writer) {
+void QueryRows::writeRows(persisted::Writer& writer) {
   if (!m_adding && !m_assigned.empty()) {
     notAllowed(QStringLiteral("当前记录的修改还没有写入数据库，不能保存记录集"));
   }

@@ -15,7 +15,7 @@ namespace ado {
 /// The rows of a query: copied, apart from long binaries, which are fetched when they are asked for.
 class QueryRows : public RowSource {
  public:
-  QueryRows(Recordset& owner, const QString& source, std::shared_ptr<Connection> connection, bool changeable);
+  QueryRows(const QString& source, std::shared_ptr<Connection> connection, bool changeable);
 
   [[nodiscard]] bool atEnd() const override { return !m_adding && m_current >= m_rowCount; }
   void moveNext() override;
@@ -28,7 +28,7 @@ class QueryRows : public RowSource {
   void remove() override;
 
   [[nodiscard]] const std::vector<FieldDefinition>& definitions() const override { return m_query.fields; }
-  void writeRows(PersistedWriter& writer) override;
+  void writeRows(persisted::Writer& writer) override;
 
  private:
   void load();

@@ -1,9 +1,9 @@
 #include "ado/Recordset.h"
 
 #include "ado/FileRows.h"
-#include "ado/PersistedWriter.h"
 #include "ado/QueryRows.h"
 #include "ado/Translation.h"
+#include "persisted/Writer.h"
 
 namespace ado {
 
@@ -16,13 +16,12 @@ void Recordset::Open(const QString& source, const std::shared_ptr<Connection>& c
   requireClosed();
   std::ignore = required(connection);
   const bool changeable = cursor == CursorType::Keyset && lock == LockType::Optimistic;
-  m_rows =
-      translatingErrors([&] { return std::make_unique<QueryRows>(*this, source, connection, changeable); });
+  m_rows = translatingErrors([&] { return std::make_unique<QueryRows>(source, connection, changeable); });
 }
 
 void Recordset::Open(const QString& path) {
   requireClosed();
-  m_rows = translatingErrors([&] { return std::make_unique<FileRows>(*this, path); });
+  m_rows = translatingErrors([&] { return std::make_unique<FileRows>(path); });
 }
 
 void Recordset::Save(const QString& path, PersistFormat format) {
@@ -30,7 +29,7 @@ void Recordset::Save(const QString& path, PersistFormat format) {
     throw AdoError(AdoErrorNumber::OperationNotAllowed, QStringLiteral("记录集只能保存为 XML"));
   }
   translatingErrors([&] {
-    PersistedWriter writer(path, rows().definitions());
+    persisted::Writer writer(path, rows().definitions());
     rows().writeRows(writer);
     writer.finish();
   });

@@ -67,7 +67,6 @@ class Recordset {
   void Delete();
 
  private:
-  friend class Field;
   /// Throws AdoError when the recordset is open.
   void requireClosed() const;
   /// Throws AdoError when the recordset is closed.

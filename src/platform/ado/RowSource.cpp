@@ -4,11 +4,11 @@
 
 namespace ado {
 
-void RowSource::makeFields(Recordset& owner) {
+void RowSource::makeFields() {
   const std::vector<FieldDefinition>& columns = definitions();
   m_fields.reserve(columns.size());
   for (std::size_t i = 0; i < columns.size(); ++i) {
-    m_fields.emplace_back(owner, static_cast<int>(i), columns[i]);
+    m_fields.emplace_back(*this, static_cast<int>(i), columns[i]);
   }
 }
 

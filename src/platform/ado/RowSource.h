@@ -4,9 +4,11 @@
 
 #include "ado/Field.h"
 
-namespace ado {
+namespace persisted {
+class Writer;
+}
 
-class PersistedWriter;
+namespace ado {
 
 /// What an open recordset holds: its fields, its rows, the position and what was assigned and not yet
 /// written. Failures are AdoError or come from the layers below.
@@ -34,12 +36,12 @@ class RowSource {
 
   [[nodiscard]] virtual const std::vector<FieldDefinition>& definitions() const = 0;
   /// Writes every row, whatever the position, which stays.
-  virtual void writeRows(PersistedWriter& writer) = 0;
+  virtual void writeRows(persisted::Writer& writer) = 0;
 
  protected:
   RowSource() = default;
   /// Makes the fields out of definitions().
-  void makeFields(Recordset& owner);
+  void makeFields();
 
  private:
   std::vector<Field> m_fields;

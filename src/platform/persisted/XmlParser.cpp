@@ -1,4 +1,4 @@
-#include "ado/XmlParser.h"
+#include "persisted/XmlParser.h"
 
 #include <algorithm>
 #include <cstring>
@@ -6,9 +6,10 @@
 #include <expat.h>
 #include <new>
 
-#include "ado/AdoError.h"
+#include "persisted/Refusal.h"
+#include "persisted/XmlErrorText.h"
 
-namespace ado {
+namespace persisted {
 
 namespace {
 
@@ -22,10 +23,6 @@ std::pair<QByteArrayView, QByteArrayView> split(const char* name) {
   const char* mark = std::strchr(name, separator);
   if (mark == nullptr) return {QByteArrayView(), QByteArrayView(name)};
   return {QByteArrayView(name, mark - name), QByteArrayView(mark + 1)};
-}
-
-[[noreturn]] void refuse(const QString& why) {
-  throw AdoError(AdoErrorNumber::OperationNotAllowed, why);
 }
 
 }  // namespace
@@ -61,7 +58,7 @@ class XmlParser::Events {
 
   [[nodiscard]] char* room(qsizetype size) {
     void* buffer = XML_GetBuffer(m_parser, static_cast<int>(size));
-    if (buffer == nullptr) refuse(QStringLiteral("内存不足，无法读取文件"));
+    if (buffer == nullptr) refuse(QStringLiteral("内存不足"));
     return static_cast<char*>(buffer);
   }
 
@@ -98,7 +95,7 @@ class XmlParser::Events {
     });
   }
   static void doctype(void* data, const char*, const char*, const char*, int) {
-    guarded(data, [](Events&) { refuse(QStringLiteral("文件含有文档类型定义（DOCTYPE），不能读取")); });
+    guarded(data, [](Events&) { refuse(QStringLiteral("其中有文档类型定义（DOCTYPE）")); });
   }
 
   void startElement(const char* name, const char** attributes) {
@@ -113,22 +110,17 @@ class XmlParser::Events {
   }
 
   [[noreturn]] static void refuseLongValue() {
-    refuse(QStringLiteral("文件中有一个值超过 %1 MB").arg(longestValue >> 20));
+    refuse(QStringLiteral("其中有一个值超过 %1 MB").arg(longestValue >> 20));
   }
 
-  /// Why the document is not well-formed.
+  /// Why the document is not well-formed, and where.
   [[nodiscard]] QString words() const {
     const XML_Error code = XML_GetErrorCode(m_parser);
-    const QString place = QStringLiteral("（第 %1 行）").arg(XML_GetCurrentLineNumber(m_parser));
-    if (code == XML_ERROR_INVALID_TOKEN && standsAtControlCharacter()) {
-      return QStringLiteral("文件含有 XML 不允许的控制字符，不能读取") + place;
-    }
-    if (code == XML_ERROR_NO_ELEMENTS) return QStringLiteral("文件不是 XML，或者是空的");
-    if (code == XML_ERROR_UNCLOSED_TOKEN || code == XML_ERROR_PARTIAL_CHAR) {
-      return QStringLiteral("文件不完整") + place;
-    }
-    if (code == XML_ERROR_UNKNOWN_ENCODING) return QStringLiteral("不认识文件所用的编码");
-    return QStringLiteral("文件不是正确的 XML%1：%2").arg(place, QString::fromUtf8(XML_ErrorString(code)));
+    const bool isControl = code == XML_ERROR_INVALID_TOKEN && standsAtControlCharacter();
+    return (isControl ? QStringLiteral("其中有 XML 不允许的控制字符") : xmlErrorText(code)) +
+           QStringLiteral("（文件的第 %1 行第 %2 列）")
+               .arg(XML_GetCurrentLineNumber(m_parser))
+               .arg(XML_GetCurrentColumnNumber(m_parser) + 1);
   }
 
   [[nodiscard]] bool standsAtControlCharacter() const {
@@ -165,4 +157,4 @@ void XmlParser::parse(qsizetype size, bool last) {
   m_events->parse(size, last);
 }
 
-}  // namespace ado
+}  // namespace persisted

@@ -5,10 +5,10 @@
 #include <QByteArray>
 #include <QByteArrayView>
 
-namespace ado {
+namespace persisted {
 
 /// The bytes that hexadecimal digits of either case stand for, white space anywhere between them left out;
 /// nothing for an odd number of digits and for any other character.
 [[nodiscard]] std::optional<QByteArray> bytesOfHex(QByteArrayView text);
 
-}  // namespace ado
+}  // namespace persisted

@@ -5,16 +5,15 @@
 #include <QByteArrayView>
 #include <QVariant>
 
-#include "ado/Field.h"
+#include "persisted/FieldDefinition.h"
 
-namespace ado {
+namespace persisted {
 
 /// The type and size of a column as `dt:type`, `rs:dbtype` and `dt:maxLength` name them. A type that is
 /// missing or not known is a text.
-void setPersistedType(FieldDefinition& column, QByteArrayView type, QByteArrayView dbtype,
-                      QByteArrayView maxLength);
+void setType(FieldDefinition& column, QByteArrayView type, QByteArrayView dbtype, QByteArrayView maxLength);
 
 /// The value that `text` stands for in a column of that type; nothing for a text that is none.
-[[nodiscard]] std::optional<QVariant> persistedValue(QByteArrayView text, DataType type);
+[[nodiscard]] std::optional<QVariant> valueOf(QByteArrayView text, DataType type);
 
-}  // namespace ado
+}  // namespace persisted

@@ -1,4 +1,4 @@
-#include "ado/PersistedReader.h"
+#include "persisted/Reader.h"
 
 #include <cerrno>
 #include <optional>
@@ -7,46 +7,63 @@
 
 #include <QFile>
 
-#include "ado/AdoError.h"
-#include "ado/PersistedData.h"
-#include "ado/PersistedFormat.h"
-#include "ado/PersistedSchema.h"
-#include "ado/XmlParser.h"
+#include "persisted/DataSection.h"
+#include "persisted/Format.h"
+#include "persisted/Refusal.h"
+#include "persisted/SchemaSection.h"
+#include "persisted/XmlParser.h"
+#include "runtime/RuntimeError.h"
 #include "runtime/SystemWords.h"
 
-namespace ado {
+namespace persisted {
 
 namespace {
 
-using namespace persisted;
+using runtime::ErrorNumber;
+using runtime::RuntimeError;
 
-[[noreturn]] void refuse(const QString& why) {
-  throw AdoError(AdoErrorNumber::OperationNotAllowed, why);
+[[noreturn]] void cannotRead(ErrorNumber number, const QString& path, const QString& why) {
+  throw RuntimeError(number, QStringLiteral("无法读取文件“%1”：%2").arg(path, why));
 }
 
 /// Reading from a pipe would wait for whoever writes into it.
 void requireFile(const QString& path) {
   struct stat facts {};
   if (::stat(QFile::encodeName(path).constData(), &facts) == 0 && !S_ISREG(facts.st_mode)) {
-    refuse(QStringLiteral("“%1”不是普通文件").arg(path));
+    cannotRead(ErrorNumber::FileAccess, path, QStringLiteral("不是普通文件"));
+  }
+}
+
+/// What `work` finds wrong with the content gets the file's name and what to do about it.
+template <typename Work>
+auto naming(const QString& path, Work&& work) -> decltype(work()) {
+  try {
+    return work();
+  } catch (const RuntimeError& error) {
+    if (error.number() != invalidFormat) throw;
+    throw RuntimeError(invalidFormat, QStringLiteral("文件“%1”不能读取：%2。请重新导出这个文件，或换一个文件")
+                                          .arg(path, error.description()));
   }
 }
 
 }  // namespace
 
 /// The file, its parser, and the section that the parser is in.
-class PersistedReader::Parsing : public XmlHandler {
+class Reader::Parsing : public XmlHandler {
  public:
   explicit Parsing(const QString& path) : m_file(path), m_parser(*this) {
     requireFile(path);
     errno = 0;
-    if (!m_file.open(QIODevice::ReadOnly)) {
-      const QString why =
-          errno == 0 ? runtime::systemWords(m_file.errorString()) : runtime::systemWords(errno);
-      refuse(QStringLiteral("无法打开文件“%1”：%2").arg(path, why));
-    }
+    if (m_file.open(QIODevice::ReadOnly)) return;
+    const QString why = errno == 0 ? runtime::systemWords(m_file.errorString()) : runtime::systemWords(errno);
+    cannotRead(ErrorNumber::FileAccess, path, why);
+  }
+
+  [[nodiscard]] QString path() const { return m_file.fileName(); }
+
+  void readSchema() {
     while (!m_data && readPiece()) continue;
-    if (!m_data) refuse(QStringLiteral("文件中没有记录集的数据，不是记录集的 XML 文件"));
+    if (!m_data) refuse(QStringLiteral("其中没有记录集的数据，不是记录集的 XML 文件"));
   }
 
   void startElement(QByteArrayView space, QByteArrayView name, const XmlAttributes& attributes) override {
@@ -73,7 +90,7 @@ class PersistedReader::Parsing : public XmlHandler {
     --m_depth;
   }
 
-  [[nodiscard]] const PersistedSchema& schema() const { return m_schema; }
+  [[nodiscard]] const SchemaSection& schema() const { return m_schema; }
 
   [[nodiscard]] bool next(std::vector<QVariant>& values) {
     while (m_data->rows().empty()) {
@@ -91,8 +108,7 @@ class PersistedReader::Parsing : public XmlHandler {
     const qsizetype wanted = m_parser.wanted();
     const qint64 read = m_file.read(m_parser.room(wanted), wanted);
     if (read < 0) {
-      refuse(QStringLiteral("无法读取文件“%1”：%2")
-                 .arg(m_file.fileName(), runtime::systemWords(m_file.errorString())));
+      cannotRead(ErrorNumber::FileIo, path(), runtime::systemWords(m_file.errorString()));
     }
     m_atEnd = read == 0;
     m_parser.parse(read, m_atEnd);
@@ -100,14 +116,14 @@ class PersistedReader::Parsing : public XmlHandler {
   }
 
   void startSchema(const XmlAttributes& attributes) {
-    if (m_data || !m_schema.rowName().isEmpty()) refuse(QStringLiteral("文件含有两个记录集，不能读取"));
+    if (m_data || !m_schema.rowName().isEmpty()) refuse(QStringLiteral("其中有两个记录集"));
     m_rowSpace = "#" + attributes.value({}, "id").toByteArray();
     m_inSchema = true;
     m_sectionAt = m_depth;
   }
 
   void startData() {
-    if (m_data) refuse(QStringLiteral("文件含有两个记录集，不能读取"));
+    if (m_data) refuse(QStringLiteral("其中有两个记录集"));
     m_schema.resolve();
     m_data.emplace(m_schema, m_rowSpace);
     m_inData = true;
@@ -123,20 +139,22 @@ class PersistedReader::Parsing : public XmlHandler {
   bool m_inSchema = false;
   bool m_inData = false;
   QByteArray m_rowSpace;
-  PersistedSchema m_schema;
-  std::optional<PersistedData> m_data;
+  SchemaSection m_schema;
+  std::optional<DataSection> m_data;
 };
 
-PersistedReader::PersistedReader(const QString& path) : m_parsing(std::make_unique<Parsing>(path)) {}
+Reader::Reader(const QString& path) : m_parsing(std::make_unique<Parsing>(path)) {
+  naming(path, [this] { m_parsing->readSchema(); });
+}
 
-PersistedReader::~PersistedReader() = default;
+Reader::~Reader() = default;
 
-const std::vector<FieldDefinition>& PersistedReader::columns() const {
+const std::vector<FieldDefinition>& Reader::columns() const {
   return m_parsing->schema().columns();
 }
 
-bool PersistedReader::next(std::vector<QVariant>& values) {
-  return m_parsing->next(values);
+bool Reader::next(std::vector<QVariant>& values) {
+  return naming(m_parsing->path(), [&] { return m_parsing->next(values); });
 }
 
-}  // namespace ado
+}  // namespace persisted

@@ -5,19 +5,20 @@
 
 #include <QVariant>
 
-#include "ado/PersistedSchema.h"
-#include "ado/XmlParser.h"
+#include "persisted/SchemaSection.h"
+#include "persisted/XmlParser.h"
 
-namespace ado {
+namespace persisted {
 
 /// The data section of a persisted recordset: elements are told to it as they come, and it makes rows of
-/// them. Failures are AdoError that names row and column.
-class PersistedData {
+/// them. Failures are RuntimeError that names the record and
+/// the column.
+class DataSection {
  public:
   using Row = std::vector<QVariant>;
 
   /// `rowSpace` is the namespace of the rows. The schema must outlive this object.
-  PersistedData(const PersistedSchema& schema, QByteArray rowSpace)
+  DataSection(const SchemaSection& schema, QByteArray rowSpace)
       : m_schema(schema), m_rowSpace(std::move(rowSpace)) {}
 
   void startElement(QByteArrayView space, QByteArrayView name, const XmlAttributes& attributes);
@@ -36,7 +37,7 @@ class PersistedData {
   void setNulls(Row& row, QByteArrayView names) const;
   [[nodiscard]] bool isWithin(Part part) const;
 
-  const PersistedSchema& m_schema;
+  const SchemaSection& m_schema;
   QByteArray m_rowSpace;
   std::vector<Part> m_open;
   /// The old row of a change.
@@ -45,4 +46,4 @@ class PersistedData {
   int m_rowNumber = 0;
 };
 
-}  // namespace ado
+}  // namespace persisted

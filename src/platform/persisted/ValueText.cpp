@@ -1,4 +1,4 @@
-#include "ado/PersistedValue.h"
+#include "persisted/ValueText.h"
 
 #include <algorithm>
 #include <array>
@@ -7,9 +7,9 @@
 
 #include <QDateTime>
 
-#include "ado/HexText.h"
+#include "persisted/HexText.h"
 
-namespace ado {
+namespace persisted {
 
 namespace {
 
@@ -107,8 +107,7 @@ std::optional<QVariant> moment(QByteArrayView text) {
 
 }  // namespace
 
-void setPersistedType(FieldDefinition& column, QByteArrayView type, QByteArrayView dbtype,
-                      QByteArrayView maxLength) {
+void setType(FieldDefinition& column, QByteArrayView type, QByteArrayView dbtype, QByteArrayView maxLength) {
   const auto found = std::find_if(typeNames.begin(), typeNames.end(),
                                   [type](const TypeName& known) { return known.name == type; });
   const bool isText = found == typeNames.end();
@@ -121,7 +120,7 @@ void setPersistedType(FieldDefinition& column, QByteArrayView type, QByteArrayVi
                           : (isText ? longText : 0);
 }
 
-std::optional<QVariant> persistedValue(QByteArrayView text, DataType type) {
+std::optional<QVariant> valueOf(QByteArrayView text, DataType type) {
   switch (type) {
     case DataType::Integer:
       return integer(text);
@@ -141,4 +140,4 @@ std::optional<QVariant> persistedValue(QByteArrayView text, DataType type) {
   }
 }
 
-}  // namespace ado
+}  // namespace persisted

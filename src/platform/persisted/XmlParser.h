@@ -5,7 +5,7 @@
 #include <QByteArrayView>
 #include <QString>
 
-namespace ado {
+namespace persisted {
 
 /// An attribute of an element. Views are valid while the element is told.
 struct XmlAttribute {
@@ -49,7 +49,8 @@ class XmlHandler {
 };
 
 /// Parses an XML document that nobody vouches for, piece by piece: no document type, so no entity of its own
-/// and none from outside; depth, number and size of attributes are bounded. Every failure is an AdoError.
+/// and none from outside; depth, number and size of attributes are bounded. Every failure is a RuntimeError,
+/// in the user's language.
 class XmlParser {
  public:
   static constexpr int deepest = 64;
@@ -75,4 +76,4 @@ class XmlParser {
   std::unique_ptr<Events> m_events;
 };
 
-}  // namespace ado
+}  // namespace persisted

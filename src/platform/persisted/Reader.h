@@ -6,18 +6,18 @@
 #include <QString>
 #include <QVariant>
 
-#include "ado/Field.h"
+#include "persisted/FieldDefinition.h"
 
-namespace ado {
+namespace persisted {
 
 /// Reads a persisted recordset row after row, holding no more than a piece of the file. Takes the files of
 /// other writers: any encoding that XML names, declarations, other prefixes, columns in any order, pending
-/// changes. Failures are AdoError, naming row and column where there is one.
-class PersistedReader {
+/// changes. Failures are RuntimeError, naming the file, and record and column where there is one.
+class Reader {
  public:
   /// Opens the file and reads its schema.
-  explicit PersistedReader(const QString& path);
-  ~PersistedReader();
+  explicit Reader(const QString& path);
+  ~Reader();
 
   /// In the order of their numbers.
   [[nodiscard]] const std::vector<FieldDefinition>& columns() const;
@@ -30,4 +30,4 @@ class PersistedReader {
   std::unique_ptr<Parsing> m_parsing;
 };
 
-}  // namespace ado
+}  // namespace persisted

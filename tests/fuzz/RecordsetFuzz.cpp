@@ -1,4 +1,5 @@
-// Reads whatever the fuzzer makes of the seeds as a persisted recordset. Only AdoError may come out.
+// Reads whatever the fuzzer makes of the seeds as a persisted recordset. Only the platform's error may come
+// out.
 
 #include <cstddef>
 #include <cstdint>
@@ -7,8 +8,8 @@
 
 #include <QString>
 
-#include "ado/AdoError.h"
-#include "ado/PersistedReader.h"
+#include "persisted/Reader.h"
+#include "runtime/RuntimeError.h"
 
 namespace {
 
@@ -31,12 +32,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static const MemoryFile file;
   if (!file.fill(data, size)) return -1;
   try {
-    ado::PersistedReader reader(file.path());
+    persisted::Reader reader(file.path());
     std::vector<QVariant> values;
     while (reader.next(values)) {
       if (values.size() != reader.columns().size()) __builtin_trap();
     }
-  } catch (const ado::AdoError&) {
+  } catch (const runtime::RuntimeError&) {
     return 0;
   }
   return 0;

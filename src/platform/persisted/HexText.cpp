@@ -1,8 +1,8 @@
-#include "ado/HexText.h"
+#include "persisted/HexText.h"
 
 #include <array>
 
-namespace ado {
+namespace persisted {
 
 namespace {
 
@@ -49,4 +49,4 @@ std::optional<QByteArray> bytesOfHex(QByteArrayView text) {
   return bytes;
 }
 
-}  // namespace ado
+}  // namespace persisted

@@ -1,12 +1,14 @@
 #include <gtest/gtest.h>
 
 #include <QDateTime>
+#include <QRegularExpression>
 #include <QStringEncoder>
 #include <QTemporaryDir>
 
 #include "../support/Files.h"
-#include "ado/AdoError.h"
-#include "ado/PersistedReader.h"
+#include "../support/Thrown.h"
+#include "persisted/Reader.h"
+#include "runtime/RuntimeError.h"
 
 namespace {
 
@@ -34,7 +36,7 @@ QString twoTexts(const QString& rows) {
   return document(column("A", "string") + column("B", "string"), rows);
 }
 
-class PersistedReader : public ::testing::Test {
+class RecordsetFiles : public ::testing::Test {
  protected:
   [[nodiscard]] QString path() const { return directory.filePath(QStringLiteral("in.xml")); }
 
@@ -43,9 +45,9 @@ class PersistedReader : public ::testing::Test {
     support::writeFile(path(), bytes);
     QStringList rows;
     try {
-      ado::PersistedReader reader(path());
+      persisted::Reader reader(path());
       names.clear();
-      for (const ado::FieldDefinition& field : reader.columns()) names.append(field.name);
+      for (const persisted::FieldDefinition& field : reader.columns()) names.append(field.name);
       std::vector<QVariant> values;
       while (reader.next(values)) {
         QStringList texts;
@@ -59,7 +61,7 @@ class PersistedReader : public ::testing::Test {
         }
         rows.append(texts.join(u','));
       }
-    } catch (const ado::AdoError& error) {
+    } catch (const runtime::RuntimeError& error) {
       return QStringLiteral("! ") + error.description();
     }
     return rows.join(u';');
@@ -81,7 +83,7 @@ bool isRefusal(const QString& result) {
 
 }  // namespace
 
-TEST_F(PersistedReader, TakesTheEncodingsThatXmlNames) {
+TEST_F(RecordsetFiles, TakesTheEncodingsThatXmlNames) {
   const QString text = twoTexts(QStringLiteral("<z:row A='张三' B='x'/>"));
   const QString rows = QStringLiteral("张三,x");
   EXPECT_EQ(read(text), rows);
@@ -93,7 +95,7 @@ TEST_F(PersistedReader, TakesTheEncodingsThatXmlNames) {
   }
 }
 
-TEST_F(PersistedReader, FindsColumnsHoweverTheSchemaNamesThem) {
+TEST_F(RecordsetFiles, FindsColumnsHoweverTheSchemaNamesThem) {
   EXPECT_EQ(read(document(QStringLiteral("<s:AttributeType name='B' rs:number='2'/>"
                                          "<s:AttributeType name='c0' rs:name='名 称' rs:number='1'/>"),
                           QStringLiteral("<z:row B='b' c0='a' other='z'/>"))),
@@ -115,7 +117,7 @@ TEST_F(PersistedReader, FindsColumnsHoweverTheSchemaNamesThem) {
             QStringLiteral("1,-"));
 }
 
-TEST_F(PersistedReader, AppliesPendingChanges) {
+TEST_F(RecordsetFiles, AppliesPendingChanges) {
   EXPECT_EQ(
       read(twoTexts(QStringLiteral(
           "<z:row A='1' B='plain'/>"
@@ -127,7 +129,7 @@ TEST_F(PersistedReader, AppliesPendingChanges) {
   EXPECT_EQ(read(twoTexts({})), QString());
 }
 
-TEST_F(PersistedReader, ReadsValuesByTheirTypes) {
+TEST_F(RecordsetFiles, ReadsValuesByTheirTypes) {
   EXPECT_EQ(value("int", QStringLiteral("-12")), QStringLiteral("-12"));
   EXPECT_EQ(value("i8", QStringLiteral("9007199254740993")), QStringLiteral("9007199254740993"));
   EXPECT_EQ(value("number", QStringLiteral("895.5560")), QStringLiteral("895.5560"));
@@ -141,7 +143,7 @@ TEST_F(PersistedReader, ReadsValuesByTheirTypes) {
   EXPECT_EQ(value("string", QStringLiteral(" a&#xd;&#xa;b ")), QStringLiteral(" a\r\nb "));
 }
 
-TEST_F(PersistedReader, ABadValueIsToldByRowAndColumn) {
+TEST_F(RecordsetFiles, ABadValueIsToldByRowAndColumn) {
   struct Case {
     const char* type;
     const char* text;
@@ -154,12 +156,12 @@ TEST_F(PersistedReader, ABadValueIsToldByRowAndColumn) {
     const QString result =
         read(document(column("OK", "string") + column("V", bad.type),
                       QStringLiteral("<z:row OK='1'/><z:row V='%1'/>").arg(QLatin1String(bad.text))));
-    EXPECT_TRUE(result.startsWith(QStringLiteral("! 第 2 行的“V”")))
+    EXPECT_TRUE(result.contains(QStringLiteral("第 2 条记录的“V”")))
         << bad.type << " " << result.toStdString();
   }
 }
 
-TEST_F(PersistedReader, RefusesWhatIsNoRecordset) {
+TEST_F(RecordsetFiles, RefusesWhatIsNoRecordset) {
   const QString good = twoTexts(QStringLiteral("<z:row A='1'/><z:row A='2'/>"));
   for (qsizetype length = 0; length < good.size(); length += 7) {
     EXPECT_TRUE(isRefusal(read(good.left(length)))) << length;
@@ -174,11 +176,53 @@ TEST_F(PersistedReader, RefusesWhatIsNoRecordset) {
   EXPECT_TRUE(read(twoTexts(QStringLiteral("<z:row A='\x01'/>"))).contains(QStringLiteral("控制字符")));
   EXPECT_TRUE(isRefusal(read(QByteArray())));
   ASSERT_TRUE(QFile::remove(path()));
-  EXPECT_THROW(ado::PersistedReader{path()}, ado::AdoError);
-  EXPECT_THROW(ado::PersistedReader{directory.path()}, ado::AdoError);
+  EXPECT_EQ(support::thrownNumber([this] { persisted::Reader{path()}; }), runtime::ErrorNumber::FileAccess);
+  EXPECT_EQ(support::thrownNumber([this] { persisted::Reader{directory.path()}; }),
+            runtime::ErrorNumber::FileAccess);
 }
 
-TEST_F(PersistedReader, HostileFilesAreRefusedEarly) {
+TEST_F(RecordsetFiles, ADamagedOneIsToldByNameAndInChinese) {
+  static const QRegularExpression english(QStringLiteral("[a-z]{2,} [a-z]{2,}"));
+  const QString good = twoTexts(QStringLiteral("<z:row A='1'/>"));
+  QStringList reasons;
+  const auto reasonOf = [&](const QByteArray& bytes) {
+    reasons.append(read(bytes));
+    EXPECT_TRUE(reasons.last().startsWith(QStringLiteral("! 文件“%1”").arg(path())))
+        << reasons.last().toStdString();
+    EXPECT_FALSE(english.match(reasons.last().remove(path())).hasMatch()) << reasons.last().toStdString();
+    return reasons.last();
+  };
+  for (const char* bad : {"ordinary text",
+                          "<a></b>",
+                          "<a x='1' x='2'/>",
+                          "<a/>more",
+                          "<a/><b/>",
+                          "<a>&none;</a>",
+                          "<a>&#0;</a>",
+                          "<a>&#1;</a>",
+                          " <?xml version='1.0'?><a/>",
+                          "<?xml version='1.0' encoding='none'?><a/>",
+                          "<?xml version='1.0' encoding='UTF-16'?><a/>",
+                          "<?xml encoding='UTF-8' version='1.0'?><a/>",
+                          "<a><![CDATA[x",
+                          "<x:a/>",
+                          "<a xmlns:xml='b'/>",
+                          "<a xmlns:xmlns='b'/>",
+                          "<a xmlns:b=''/>",
+                          "<a b='<'/>",
+                          "<a b=c/>",
+                          "<a>\xff</a>",
+                          "<a",
+                          "<!-- -- --><a/>",
+                          ""}) {
+    std::ignore = reasonOf(bad);
+  }
+  EXPECT_TRUE(reasonOf("<xml>\n <a></b></xml>").contains(QStringLiteral("不成对（文件的第 2 行")));
+  EXPECT_TRUE(reasonOf(good.toUtf8().replace("A='1'", "A='1' A='2'")).contains(QStringLiteral("两次")));
+  EXPECT_TRUE(reasonOf(good.left(good.size() - 9).toUtf8()).contains(QStringLiteral("不完整")));
+}
+
+TEST_F(RecordsetFiles, HostileFilesAreRefusedEarly) {
   EXPECT_TRUE(read(QByteArray("<!DOCTYPE xml [<!ENTITY a 'aaaa'><!ENTITY b '&a;&a;&a;'>]><xml>&b;</xml>"))
                   .contains(QStringLiteral("DOCTYPE")));
   EXPECT_TRUE(read(QByteArray("<a>").repeated(200000)).contains(QStringLiteral("嵌套")));
@@ -190,12 +234,12 @@ TEST_F(PersistedReader, HostileFilesAreRefusedEarly) {
   EXPECT_TRUE(isRefusal(read(document(columns, {}))));
 }
 
-TEST_F(PersistedReader, ALongValueIsReadInReasonableTime) {
+TEST_F(RecordsetFiles, ALongValueIsReadInReasonableTime) {
   const QByteArray digits = QByteArray(64 << 20, 'a');
   const QByteArray text =
       document(column("V", "bin.hex"), QStringLiteral("<z:row V='@'/>")).toUtf8().replace("@", digits);
   support::writeFile(path(), text);
-  ado::PersistedReader reader(path());
+  persisted::Reader reader(path());
   std::vector<QVariant> values;
   ASSERT_TRUE(reader.next(values));
   EXPECT_EQ(values[0].toByteArray().size(), 32 << 20);

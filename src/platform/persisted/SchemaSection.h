@@ -6,14 +6,14 @@
 #include <QByteArray>
 #include <QByteArrayView>
 
-#include "ado/Field.h"
-#include "ado/XmlParser.h"
+#include "persisted/FieldDefinition.h"
+#include "persisted/XmlParser.h"
 
-namespace ado {
+namespace persisted {
 
 /// The schema section of a persisted recordset: which columns the rows have. Elements are told to it as they
-/// come; afterwards resolve() puts the columns into their order. Failures are AdoError.
-class PersistedSchema {
+/// come; afterwards resolve() puts the columns into their order. Failures are RuntimeError.
+class SchemaSection {
  public:
   static constexpr std::size_t mostColumns = 2048;
 
@@ -55,4 +55,4 @@ class PersistedSchema {
   std::map<QByteArray, int> m_places;
 };
 
-}  // namespace ado
+}  // namespace persisted

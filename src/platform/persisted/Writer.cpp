@@ -1,4 +1,4 @@
-#include "ado/PersistedWriter.h"
+#include "persisted/Writer.h"
 
 #include <algorithm>
 #include <set>
@@ -6,10 +6,10 @@
 
 #include <QDateTime>
 
-#include "ado/AdoError.h"
-#include "ado/PersistedFormat.h"
+#include "persisted/Format.h"
+#include "persisted/Refusal.h"
 
-namespace ado {
+namespace persisted {
 
 namespace {
 
@@ -119,13 +119,12 @@ std::vector<QByteArray> attributeNames(const std::vector<FieldDefinition>& colum
   return names;
 }
 
-PersistedWriter::PersistedWriter(const QString& path, std::vector<FieldDefinition> columns)
+Writer::Writer(const QString& path, std::vector<FieldDefinition> columns)
     : m_file(path), m_columns(std::move(columns)), m_names(attributeNames(m_columns)) {
   writeSchema();
 }
 
-void PersistedWriter::writeSchema() {
-  using namespace persisted;
+void Writer::writeSchema() {
   m_text += QByteArray("<xml xmlns:s='") + schemaSpace + "'" + lineEnd + "\txmlns:dt='" + typeSpace + "'" +
             lineEnd + "\txmlns:rs='" + rowsetSpace + "'" + lineEnd + "\txmlns:z='#RowsetSchema'>" + lineEnd +
             "<s:Schema id='RowsetSchema'>" + lineEnd +
@@ -137,17 +136,17 @@ void PersistedWriter::writeSchema() {
             "</s:Schema>" + lineEnd + "<rs:data>" + lineEnd;
 }
 
-void PersistedWriter::row(const ValueOf& value) {
+void Writer::row(const ValueOf& value) {
   writeRow("\t", value);
 }
 
-void PersistedWriter::pendingRow(const ValueOf& value) {
+void Writer::pendingRow(const ValueOf& value) {
   m_text += QByteArray("\t<rs:insert>") + lineEnd;
   writeRow("\t\t", value);
   m_text += QByteArray("\t</rs:insert>") + lineEnd;
 }
 
-void PersistedWriter::writeRow(const QByteArray& indent, const ValueOf& value) {
+void Writer::writeRow(const QByteArray& indent, const ValueOf& value) {
   ++m_row;
   m_text += indent + "<z:row";
   for (std::size_t i = 0; i < m_columns.size(); ++i) appendValue(i, value(static_cast<int>(i)));
@@ -155,7 +154,7 @@ void PersistedWriter::writeRow(const QByteArray& indent, const ValueOf& value) {
   if (m_text.size() >= flushedAt) flush();
 }
 
-void PersistedWriter::appendValue(std::size_t column, const QVariant& value) {
+void Writer::appendValue(std::size_t column, const QVariant& value) {
   // A binary without bytes is written like Null.
   const bool isEmptyBinary = value.typeId() == QMetaType::QByteArray && value.toByteArray().isEmpty();
   if (!value.isValid() || isEmptyBinary) return;
@@ -174,27 +173,26 @@ void PersistedWriter::appendValue(std::size_t column, const QVariant& value) {
   m_text += '\'';
 }
 
-void PersistedWriter::appendText(std::size_t column, const QString& text) {
+void Writer::appendText(std::size_t column, const QString& text) {
   const bool isWritable = text.isValidUtf16() && std::none_of(text.begin(), text.end(), [](QChar c) {
                             return isForbidden(c.unicode());
                           });
   if (!isWritable) {
-    throw AdoError(
-        AdoErrorNumber::OperationNotAllowed,
-        QStringLiteral("第 %1 行的“%2”含有 XML 不能存放的控制字符").arg(m_row).arg(m_columns[column].name));
+    refuse(QStringLiteral("第 %1 条记录的“%2”含有 XML 不能存放的控制字符")
+               .arg(QString::number(m_row), m_columns[column].name));
   }
   m_text += escaped(text);
 }
 
-void PersistedWriter::flush() {
+void Writer::flush() {
   m_file.write(m_text);
   m_text.clear();
 }
 
-void PersistedWriter::finish() {
+void Writer::finish() {
   m_text += QByteArray("</rs:data>") + lineEnd + "</xml>";
   flush();
   m_file.commit();
 }
 
-}  // namespace ado
+}  // namespace persisted

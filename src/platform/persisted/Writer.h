@@ -5,20 +5,20 @@
 
 #include <QByteArray>
 
-#include "ado/Field.h"
+#include "persisted/FieldDefinition.h"
 #include "runtime/ReplacingFile.h"
 
-namespace ado {
+namespace persisted {
 
 /// Writes a recordset as ADO's persisted XML, row after row: UTF-8 without a mark, CR LF, tabs, single
-/// quotes. The file takes the place of an older one only when finish() is done. Failures are AdoError, naming
-/// row and column, or come from the file.
-class PersistedWriter {
+/// quotes. The file takes the place of an older one only when finish() is done. Failures are RuntimeError:
+/// they name record and column, or come from the file.
+class Writer {
  public:
   /// The value of a column in a row that is written.
   using ValueOf = std::function<QVariant(int column)>;
 
-  PersistedWriter(const QString& path, std::vector<FieldDefinition> columns);
+  Writer(const QString& path, std::vector<FieldDefinition> columns);
 
   void row(const ValueOf& value);
   /// A row that is not in the database yet.
@@ -44,4 +44,4 @@ class PersistedWriter {
 /// made of their place.
 [[nodiscard]] std::vector<QByteArray> attributeNames(const std::vector<FieldDefinition>& columns);
 
-}  // namespace ado
+}  // namespace persisted

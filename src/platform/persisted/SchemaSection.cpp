@@ -1,21 +1,15 @@
-#include "ado/PersistedSchema.h"
+#include "persisted/SchemaSection.h"
 
 #include <algorithm>
 #include <utility>
 
-#include "ado/AdoError.h"
-#include "ado/PersistedFormat.h"
-#include "ado/PersistedValue.h"
+#include "persisted/Format.h"
+#include "persisted/Refusal.h"
+#include "persisted/ValueText.h"
 
-namespace ado {
+namespace persisted {
 
 namespace {
-
-using namespace persisted;
-
-[[noreturn]] void refuse(const QString& why) {
-  throw AdoError(AdoErrorNumber::OperationNotAllowed, why);
-}
 
 bool isTrue(QByteArrayView value) {
   return value == "true" || value == "1";
@@ -23,8 +17,7 @@ bool isTrue(QByteArrayView value) {
 
 }  // namespace
 
-void PersistedSchema::startElement(QByteArrayView space, QByteArrayView name,
-                                   const XmlAttributes& attributes) {
+void SchemaSection::startElement(QByteArrayView space, QByteArrayView name, const XmlAttributes& attributes) {
   ++m_depth;
   if (space != schemaSpace) return;
   if (name == "ElementType") {
@@ -38,17 +31,17 @@ void PersistedSchema::startElement(QByteArrayView space, QByteArrayView name,
   }
 }
 
-void PersistedSchema::startRowType(const XmlAttributes& attributes) {
+void SchemaSection::startRowType(const XmlAttributes& attributes) {
   const bool isSecond = m_rowTypeAt != 0 || !m_rowName.isEmpty();
   if (isSecond || !attributes.value(rowsetSpace, "relation").isNull()) {
-    refuse(QStringLiteral("文件含有分层的记录集，不能读取"));
+    refuse(QStringLiteral("其中的记录集是分层的"));
   }
   m_rowTypeAt = m_depth;
   m_rowName = attributes.value({}, "name").toByteArray();
   if (m_rowName.isEmpty()) refuse(QStringLiteral("记录集的架构没有命名它的行"));
 }
 
-void PersistedSchema::startColumn(const XmlAttributes& attributes) {
+void SchemaSection::startColumn(const XmlAttributes& attributes) {
   if (m_found.size() == mostColumns) refuse(QStringLiteral("记录集的字段超过 %1 个").arg(mostColumns));
   Column column;
   column.xmlName = attributes.value({}, "name").toByteArray();
@@ -68,19 +61,19 @@ void PersistedSchema::startColumn(const XmlAttributes& attributes) {
 }
 
 /// The type stands in an element of its own or at the column itself.
-void PersistedSchema::readType(const XmlAttributes& attributes) {
-  setPersistedType(m_found.back().definition, attributes.value(typeSpace, "type"),
-                   attributes.value(rowsetSpace, "dbtype"), attributes.value(typeSpace, "maxLength"));
+void SchemaSection::readType(const XmlAttributes& attributes) {
+  setType(m_found.back().definition, attributes.value(typeSpace, "type"),
+          attributes.value(rowsetSpace, "dbtype"), attributes.value(typeSpace, "maxLength"));
 }
 
-void PersistedSchema::endElement() {
+void SchemaSection::endElement() {
   if (m_depth == m_columnAt) m_columnAt = 0;
   if (m_depth == m_rowTypeAt) m_rowTypeAt = 0;
   --m_depth;
 }
 
 /// Columns that stand beside the row's element belong to it in the order in which it names them.
-void PersistedSchema::pickNamed() {
+void SchemaSection::pickNamed() {
   std::vector<Column> picked;
   for (const Column& column : m_found) {
     if (column.inside) picked.push_back(column);
@@ -93,8 +86,8 @@ void PersistedSchema::pickNamed() {
   m_found = std::move(picked);
 }
 
-void PersistedSchema::resolve() {
-  if (m_rowName.isEmpty()) refuse(QStringLiteral("文件中没有记录集的架构，不是记录集的 XML 文件"));
+void SchemaSection::resolve() {
+  if (m_rowName.isEmpty()) refuse(QStringLiteral("其中没有记录集的架构，不是记录集的 XML 文件"));
   pickNamed();
   if (m_found.empty()) refuse(QStringLiteral("记录集的架构没有字段"));
   const bool allNumbered =
@@ -111,9 +104,9 @@ void PersistedSchema::resolve() {
   m_found.clear();
 }
 
-int PersistedSchema::columnOf(QByteArrayView name) const {
+int SchemaSection::columnOf(QByteArrayView name) const {
   const auto found = m_places.find(QByteArray::fromRawData(name.data(), name.size()));
   return found == m_places.end() ? -1 : found->second;
 }
 
-}  // namespace ado
+}  // namespace persisted

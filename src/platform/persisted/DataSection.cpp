@@ -1,56 +1,59 @@
-#include "ado/PersistedData.h"
+#include "persisted/DataSection.h"
 
 #include <algorithm>
 #include <optional>
 
-#include "ado/AdoError.h"
-#include "ado/PersistedFormat.h"
-#include "ado/PersistedValue.h"
+#include "persisted/Format.h"
+#include "persisted/Refusal.h"
+#include "persisted/ValueText.h"
 
-namespace ado {
+namespace persisted {
 
 namespace {
 
-[[noreturn]] void refuse(const QString& why) {
-  throw AdoError(AdoErrorNumber::OperationNotAllowed, why);
+/// As much of a value as a message has room for.
+QString beginningOf(QByteArrayView value) {
+  constexpr qsizetype most = 40;
+  constexpr qsizetype bytesOfCharacter = 4;
+  return QString::fromUtf8(value.first(std::min(value.size(), most * bytesOfCharacter))).left(most);
 }
 
 }  // namespace
 
-bool PersistedData::isWithin(Part part) const {
+bool DataSection::isWithin(Part part) const {
   return std::find(m_open.begin(), m_open.end(), part) != m_open.end();
 }
 
-PersistedData::Part PersistedData::partOf(QByteArrayView space, QByteArrayView name) const {
-  if (isWithin(Part::Row)) refuse(QStringLiteral("第 %1 行含有下级记录，不能读取").arg(m_rowNumber));
+DataSection::Part DataSection::partOf(QByteArrayView space, QByteArrayView name) const {
+  if (isWithin(Part::Row)) refuse(QStringLiteral("第 %1 条记录含有下级记录").arg(m_rowNumber));
   if (space == m_rowSpace && name == m_schema.rowName()) return Part::Row;
-  if (space == persisted::rowsetSpace) {
+  if (space == rowsetSpace) {
     if (name == "insert" && m_open.empty()) return Part::Insert;
     if (name == "delete" && m_open.empty()) return Part::Delete;
     if (name == "update" && m_open.empty()) return Part::Update;
     if (name == "original" && m_open == std::vector{Part::Update}) return Part::Original;
   }
-  refuse(QStringLiteral("记录集的数据中第 %1 行之后有不认识的元素“%2”")
-             .arg(m_rowNumber)
-             .arg(QString::fromUtf8(name)));
+  refuse(QStringLiteral("第 %1 条记录之后有不认识的元素“%2”")
+             .arg(QString::number(m_rowNumber), QString::fromUtf8(name)));
 }
 
-void PersistedData::startElement(QByteArrayView space, QByteArrayView name, const XmlAttributes& attributes) {
+void DataSection::startElement(QByteArrayView space, QByteArrayView name, const XmlAttributes& attributes) {
   const Part part = partOf(space, name);
   if (part == Part::Update) m_original.clear();
   if (part == Part::Row) startRow(attributes);
   m_open.push_back(part);
 }
 
-void PersistedData::endElement() {
+void DataSection::endElement() {
   m_open.pop_back();
 }
 
-void PersistedData::startRow(const XmlAttributes& attributes) {
+void DataSection::startRow(const XmlAttributes& attributes) {
   ++m_rowNumber;
   if (isWithin(Part::Delete)) return;
   const bool changes = isWithin(Part::Update) && !isWithin(Part::Original);
-  if (changes && m_original.empty()) refuse(QStringLiteral("第 %1 行的修改没有原来的值").arg(m_rowNumber));
+  if (changes && m_original.empty())
+    refuse(QStringLiteral("第 %1 条记录的修改没有原来的值").arg(m_rowNumber));
   Row row = changes ? m_original : Row(m_schema.columns().size());
   readValues(row, attributes);
   if (isWithin(Part::Original)) {
@@ -60,30 +63,28 @@ void PersistedData::startRow(const XmlAttributes& attributes) {
   }
 }
 
-void PersistedData::readValues(Row& row, const XmlAttributes& attributes) const {
+void DataSection::readValues(Row& row, const XmlAttributes& attributes) const {
   attributes.each([&](const XmlAttribute& attribute) {
     if (!attribute.space.isEmpty()) return;
     const int column = m_schema.columnOf(attribute.name);
     if (column < 0) return;
     const FieldDefinition& definition = m_schema.columns()[static_cast<std::size_t>(column)];
-    std::optional<QVariant> value = persistedValue(attribute.value, definition.type);
+    std::optional<QVariant> value = valueOf(attribute.value, definition.type);
     if (!value) {
-      refuse(QStringLiteral("第 %1 行的“%2”的值不正确：%3")
-                 .arg(m_rowNumber)
-                 .arg(definition.name, QString::fromUtf8(attribute.value.first(
-                                           std::min<qsizetype>(attribute.value.size(), 40)))));
+      refuse(QStringLiteral("第 %1 条记录的“%2”的值不正确：%3")
+                 .arg(QString::number(m_rowNumber), definition.name, beginningOf(attribute.value)));
     }
     row[static_cast<std::size_t>(column)] = std::move(*value);
   });
-  setNulls(row, attributes.value(persisted::rowsetSpace, "forcenull"));
+  setNulls(row, attributes.value(rowsetSpace, "forcenull"));
 }
 
 /// `names` are those of attributes, with blanks between them.
-void PersistedData::setNulls(Row& row, QByteArrayView names) const {
+void DataSection::setNulls(Row& row, QByteArrayView names) const {
   for (const QByteArray& name : names.toByteArray().simplified().split(' ')) {
     const int column = m_schema.columnOf(name);
     if (column >= 0) row[static_cast<std::size_t>(column)] = QVariant();
   }
 }
 
-}  // namespace ado
+}  // namespace persisted

@@ -1,0 +1,11 @@
+#include "persisted/Refusal.h"
+
+#include "runtime/RuntimeError.h"
+
+namespace persisted {
+
+void refuse(const QString& why) {
+  throw runtime::RuntimeError(invalidFormat, why);
+}
+
+}  // namespace persisted
