@@ -1,7 +1,7 @@
 # room(NAME [QOBJECTS] [DIR folder] [FILES pattern...] [EXCEPT pattern...] [ROOMS room...] [LIBS library...])
 #
-# Makes the static library room_NAME out of the folder's files. A folder that holds two halves (one that
-# needs only Qt Core, one with windows) calls room() twice and tells them apart with EXCEPT and FILES.
+# Makes the static library room_NAME out of the files of the folder and of those below it. A folder that holds two
+# halves (one that needs only Qt Core, one with windows) calls room() twice and tells them apart with EXCEPT and FILES.
 # A file added to a folder needs no list to be edited. QOBJECTS: the room has classes with Q_OBJECT.
 function(room name)
   cmake_parse_arguments(ARG "QOBJECTS" "DIR" "FILES;EXCEPT;ROOMS;LIBS" ${ARGN})
@@ -10,9 +10,9 @@ function(room name)
     set(ARG_FILES *.h *.cpp)
   endif()
   list(TRANSFORM ARG_FILES PREPEND ${dir}/)
-  file(GLOB files CONFIGURE_DEPENDS ${ARG_FILES})
+  file(GLOB_RECURSE files CONFIGURE_DEPENDS ${ARG_FILES})
   foreach(pattern IN LISTS ARG_EXCEPT)
-    file(GLOB left_out CONFIGURE_DEPENDS ${dir}/${pattern})
+    file(GLOB_RECURSE left_out CONFIGURE_DEPENDS ${dir}/${pattern})
     list(REMOVE_ITEM files ${left_out})
   endforeach()
 
@@ -37,11 +37,11 @@ function(program name)
   target_link_libraries(${name} PRIVATE ${ARG_ROOMS} ${ARG_LIBS})
 endfunction()
 
-# room_test(NAME [ROOMS room...] [LIBS library...]): test_NAME out of the folder tests/NAME, one CTest entry a
-# test case, run without a display and with a time-out each. It links the room NAME and what it names.
+# room_test(NAME [ROOMS room...] [LIBS library...]): test_NAME out of the folder tests/NAME and those below it, one
+# CTest entry a test case, run without a display and with a time-out each. It links the room NAME and what it names.
 function(room_test name)
   cmake_parse_arguments(ARG "" "MAIN" "ROOMS;LIBS" ${ARGN})
-  file(GLOB files CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.h
+  file(GLOB_RECURSE files CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.h
        ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp)
   if(NOT files)
     return()

@@ -7,12 +7,12 @@
 #include <QMenu>
 #include <QMenuBar>
 
-#include "ui/CardMenu.h"
 #include "ui/DeptDialogs.h"
 #include "ui/ExportMenu.h"
 #include "ui/HelpMenu.h"
 #include "ui/ImportMenu.h"
 #include "ui/ToolsMenu.h"
+#include "ui/cards/CardMenu.h"
 #include "ui/frmMain.h"
 
 namespace {

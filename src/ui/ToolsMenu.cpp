@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "ui/frmCardSheet.h"
+#include "ui/cards/frmCardSheet.h"
 #include "ui/frmMain.h"
 #include "ui/frmRosterImport.h"
 

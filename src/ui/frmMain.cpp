@@ -19,7 +19,7 @@
 #include "ui/LoadProgress.h"
 #include "ui/ProgramTitle.h"
 #include "ui/RecordRemoval.h"
-#include "ui/frmMonthReport.h"
+#include "ui/months/frmMonthReport.h"
 
 namespace {
 

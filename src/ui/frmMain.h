@@ -7,7 +7,7 @@
 #include "foundation/MainForm.h"
 #include "records/clsDept.h"
 #include "records/clsEmployeeSet.h"
-#include "ui/CardPrinting.h"
+#include "ui/cards/CardPrinting.h"
 #include "ui/MainMenu.h"
 #include "ui/MainStatus.h"
 #include "ui/RecordList.h"

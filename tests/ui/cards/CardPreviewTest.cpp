@@ -6,11 +6,11 @@
 #include <QTimer>
 
 #include "preview/PreviewWindow.h"
-#include "printing/CardPreview.h"
 #include "printing/clsLogo.h"
 #include "support/Files.h"
 #include "support/ScriptedBoxes.h"
 #include "support/TestHome.h"
+#include "ui/cards/CardPreview.h"
 
 namespace {
 

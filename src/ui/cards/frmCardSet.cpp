@@ -1,4 +1,4 @@
-#include "printing/frmCardSet.h"
+#include "ui/cards/frmCardSet.h"
 
 #include <cmath>
 #include <tuple>

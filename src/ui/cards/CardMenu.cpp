@@ -1,6 +1,6 @@
-#include "ui/CardMenu.h"
+#include "ui/cards/CardMenu.h"
 
-#include "printing/frmCardSet.h"
+#include "ui/cards/frmCardSet.h"
 #include "ui/frmMain.h"
 
 void mnuCardInfoSet_Click(frmMain& window) {

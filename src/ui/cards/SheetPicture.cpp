@@ -1,4 +1,4 @@
-#include "ui/SheetPicture.h"
+#include "ui/cards/SheetPicture.h"
 
 #include <QHash>
 #include <QKeyEvent>

@@ -1,4 +1,4 @@
-#include "printing/CardPreview.h"
+#include "ui/cards/CardPreview.h"
 
 #include <QApplication>
 #include <QScopeGuard>

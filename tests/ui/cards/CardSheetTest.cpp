@@ -3,7 +3,7 @@
 #include <QTest>
 
 #include "support/ScriptedBoxes.h"
-#include "ui/frmCardSheet.h"
+#include "ui/cards/frmCardSheet.h"
 
 namespace {
 

@@ -12,7 +12,7 @@
 #include "support/FixedClock.h"
 #include "support/ScriptedBoxes.h"
 #include "support/TestHome.h"
-#include "ui/frmMonthReport.h"
+#include "ui/months/frmMonthReport.h"
 
 namespace {
 

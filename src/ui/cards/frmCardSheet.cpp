@@ -1,4 +1,4 @@
-#include "ui/frmCardSheet.h"
+#include "ui/cards/frmCardSheet.h"
 
 #include <cmath>
 

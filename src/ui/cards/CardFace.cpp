@@ -1,4 +1,4 @@
-#include "printing/CardFace.h"
+#include "ui/cards/CardFace.h"
 
 #include <QPainter>
 #include <QPainterPath>

@@ -1,4 +1,4 @@
-#include "printing/MonthPreview.h"
+#include "ui/months/MonthPreview.h"
 
 #include <QApplication>
 

@@ -6,8 +6,8 @@
 #include <QListView>
 #include <QTimer>
 
-#include "MainWindowTest.h"
-#include "ui/frmCardSheet.h"
+#include "ui/MainWindowTest.h"
+#include "ui/cards/frmCardSheet.h"
 
 namespace {
 

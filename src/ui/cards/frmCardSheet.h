@@ -8,7 +8,7 @@
 #include <QSpinBox>
 
 #include "printing/CardSheet.h"
-#include "ui/SheetPicture.h"
+#include "ui/cards/SheetPicture.h"
 
 /// Asks how sign-in cards are laid on sheets of A4, and shows what that gives.
 class frmCardSheet : public QDialog {

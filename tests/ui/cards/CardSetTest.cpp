@@ -3,12 +3,12 @@
 #include <QFile>
 #include <QImage>
 
-#include "../graphics/PictureBytes.h"
+#include "../../graphics/PictureBytes.h"
 #include "printing/clsLogo.h"
-#include "printing/frmCardSet.h"
 #include "support/Files.h"
 #include "support/ScriptedBoxes.h"
 #include "support/TestHome.h"
+#include "ui/cards/frmCardSet.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "ui/frmMonthReport.h"
+#include "ui/months/frmMonthReport.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -8,11 +8,11 @@
 #include "exchange/MonthWorkbook.h"
 #include "graphics/WaitCursor.h"
 #include "preview/DocumentOutput.h"
-#include "printing/MonthPreview.h"
 #include "runtime/Clock.h"
 #include "runtime/OutputGuard.h"
 #include "runtime/RuntimeError.h"
 #include "ui/Controls.h"
+#include "ui/months/MonthPreview.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <QLabel>
 
 #include "graphics/Picture.h"
-#include "printing/CardText.h"
+#include "ui/cards/CardText.h"
 
 /// A card on the screen, larger than life: what every card has alike stands on a background, unit line, memo
 /// and logo in their places. The children lblUnit, lblMemo and imgLogo are found by their names.

@@ -1,4 +1,4 @@
-#include "printing/CardText.h"
+#include "ui/cards/CardText.h"
 
 #include <QPainter>
 

@@ -4,8 +4,8 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "printing/CardFace.h"
 #include "printing/clsTextDspStyle.h"
+#include "ui/cards/CardFace.h"
 
 /// Lets the user design the card: unit line, memo and logo. Every choice is stored at once and shown on a
 /// card as it will be printed; there is nothing to confirm or to take back.

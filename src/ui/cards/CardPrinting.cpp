@@ -1,11 +1,11 @@
-#include "ui/CardPrinting.h"
+#include "ui/cards/CardPrinting.h"
 
 #include <utility>
 
-#include "printing/CardPreview.h"
 #include "printing/CardSheetReport.h"
 #include "runtime/Progress.h"
 #include "ui/ItemKey.h"
+#include "ui/cards/CardPreview.h"
 
 std::shared_ptr<clsEmployeeSet> CardPrinting::GetSelectedEmployees() {
   m_skipped.clear();
