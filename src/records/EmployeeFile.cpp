@@ -17,19 +17,34 @@ QByteArray bytesOf(const QVariant& value) {
   return value.toByteArray();
 }
 
-/// The value of the column in the current row; an error names the column, or what it is when there is none.
-template <typename Convert>
-auto valueOf(ado::Recordset& row, const QString& column, const QString& what, const Convert& convert) {
-  const QVariant value = row.Fields(column).Value();
-  if (runtime::isNull(value)) {
-    throw runtime::RuntimeError(runtime::ErrorNumber::InvalidUseOfNull, QStringLiteral("文件中没有") + what);
+/// The file's first row. An error tells the file and the value that is wrong in it.
+class FileRow {
+ public:
+  explicit FileRow(const QString& path) : m_path(path) { m_row.Open(path); }
+
+  [[nodiscard]] bool isThere() const { return !m_row.IsEOF(); }
+
+  /// The value of `column`, which is known to people as `what`.
+  template <typename Convert>
+  auto value(const QString& column, const QString& what, const Convert& convert) {
+    try {
+      const QVariant found = m_row.Fields(column).Value();
+      if (runtime::isNull(found)) refuseMissing(what);
+      return convert(found);
+    } catch (const runtime::RuntimeError& error) {
+      throw error.reworded(QStringLiteral("文件“%1”的%2（列 %3）不能用：%4。请改正文件，或重新导出")
+                               .arg(m_path, what, column, error.description()));
+    }
   }
-  try {
-    return convert(value);
-  } catch (const runtime::RuntimeError& error) {
-    throw error.reworded(QStringLiteral("列“%1”：%2").arg(column, error.description()));
+
+ private:
+  [[noreturn]] static void refuseMissing(const QString& what) {
+    throw runtime::RuntimeError(runtime::ErrorNumber::InvalidUseOfNull, QStringLiteral("没有") + what);
   }
-}
+
+  QString m_path;
+  ado::Recordset m_row;
+};
 
 }  // namespace
 
@@ -45,12 +60,11 @@ int EmployeeFile::Load(const QString& path) {
 }
 
 int EmployeeFile::read(const QString& path) {
-  ado::Recordset row;
-  row.Open(path);
-  if (row.IsEOF()) return NoRow;
-  m_name = valueOf(row, QStringLiteral("ENAME"), QStringLiteral("姓名"), runtime::toText);
-  m_department = valueOf(row, QStringLiteral("DID"), QStringLiteral("部门"), runtime::toInt16);
-  m_enterDate = valueOf(row, QStringLiteral("ENTERDATE"), QStringLiteral("录入日期"), runtime::toText);
-  m_photo = valueOf(row, QStringLiteral("HEADIMG"), QStringLiteral("照片"), bytesOf);
+  FileRow row(path);
+  if (!row.isThere()) return NoRow;
+  m_name = row.value(QStringLiteral("ENAME"), QStringLiteral("姓名"), runtime::toText);
+  m_department = row.value(QStringLiteral("DID"), QStringLiteral("部门"), runtime::toInt16);
+  m_enterDate = row.value(QStringLiteral("ENTERDATE"), QStringLiteral("录入日期"), runtime::toText);
+  m_photo = row.value(QStringLiteral("HEADIMG"), QStringLiteral("照片"), bytesOf);
   return Loaded;
 }

@@ -25,7 +25,7 @@ class EmployeeFile {
   /// Any bytes: whether they are a picture is not looked at.
   [[nodiscard]] const std::optional<QByteArray>& photo() const { return m_photo; }
 
-  /// Why Load gave anything but Loaded.
+  /// Why Load gave anything but Loaded: names the file, and the value that cannot be used.
   [[nodiscard]] const QString& lastFailure() const { return m_lastFailure; }
 
  private:

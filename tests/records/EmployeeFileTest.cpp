@@ -96,7 +96,9 @@ TEST_F(EmployeeFiles, SayHowFarTheyCouldBeRead) {
   EXPECT_EQ(file.enterDate(), QStringLiteral("2004-02-03"));
   EXPECT_FALSE(file.photo());
   EXPECT_EQ(load(file, "ENAME='b' DID='40000' ENTERDATE='2004-02-03' HEADIMG='ffd8'"), EmployeeFile::Failed);
-  EXPECT_TRUE(file.lastFailure().contains(QStringLiteral("DID"))) << file.lastFailure().toStdString();
+  EXPECT_TRUE(file.lastFailure().contains(QStringLiteral("“%1”的部门（列 DID）").arg(m_file)))
+      << file.lastFailure().toStdString();
+  EXPECT_TRUE(file.lastFailure().contains(QStringLiteral("40000 不在 -32768 到 32767 之间")));
   EXPECT_EQ(file.name(), QStringLiteral("b"));
   EXPECT_FALSE(file.enterDate()) << "that of the file before";
   EXPECT_EQ(load(file, "ENAME='c' DID='2' ENTERDATE='2004-13-41' HEADIMG='ffd8'"), EmployeeFile::Failed);

@@ -41,8 +41,8 @@ auto naming(const QString& path, Work&& work) -> decltype(work()) {
     return work();
   } catch (const RuntimeError& error) {
     if (error.number() != invalidFormat) throw;
-    throw RuntimeError(invalidFormat, QStringLiteral("文件“%1”不能读取：%2。请重新导出这个文件，或换一个文件")
-                                          .arg(path, error.description()));
+    throw error.reworded(QStringLiteral("文件“%1”不能读取：%2。请重新导出这个文件，或换一个文件")
+                             .arg(path, error.description()));
   }
 }
 

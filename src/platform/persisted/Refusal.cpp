@@ -5,7 +5,7 @@
 namespace persisted {
 
 void refuse(const QString& why) {
-  throw runtime::RuntimeError(invalidFormat, why);
+  throw runtime::RuntimeError(invalidFormat, why, runtime::FailureKind::Foreign);
 }
 
 }  // namespace persisted

@@ -45,7 +45,10 @@ template <typename Integer>
 Integer toInteger(const QVariant& value) {
   const double number = halfToEven(toNumber(value));
   if (number < std::numeric_limits<Integer>::min() || number > std::numeric_limits<Integer>::max()) {
-    throw RuntimeError(ErrorNumber::Overflow, QStringLiteral("溢出：%1").arg(value.toString()));
+    throw RuntimeError(ErrorNumber::Overflow,
+                       QStringLiteral("溢出：%1 不在 %2 到 %3 之间")
+                           .arg(value.toString(), QString::number(std::numeric_limits<Integer>::min()),
+                                QString::number(std::numeric_limits<Integer>::max())));
   }
   return static_cast<Integer>(number);
 }
