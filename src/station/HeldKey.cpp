@@ -1,10 +1,17 @@
 #include "station/HeldKey.h"
 
+namespace {
+
+/// No desktop begins to repeat a key earlier.
+constexpr std::chrono::milliseconds earliestRepeat{100};
+
+}  // namespace
+
 bool HeldKey::repeats(const QKeyEvent& press) {
-  const ScanSplitter::Time time(press.timestamp());
-  // A desktop begins to repeat long after a scanner's next key had to come, at the earliest after 100 ms.
-  // What was taken for held doesn't count, since once it has begun it may come quickly.
-  const bool isTypedTwice = press.key() == m_key && m_pressed && ScanSplitter::isSameScan(*m_pressed, time);
+  const std::chrono::milliseconds time(press.timestamp());
+  // What was taken for held doesn't count: once it has begun it may come as quickly as a scanner's keys.
+  const bool isTypedTwice =
+      m_pressed && press.key() == m_key && time >= *m_pressed && time - *m_pressed < earliestRepeat;
   if (press.isAutoRepeat() && !isTypedTwice) return true;
   m_key = press.key();
   m_pressed = time;

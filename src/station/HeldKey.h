@@ -1,10 +1,9 @@
 #pragma once
 
+#include <chrono>
 #include <optional>
 
 #include <QKeyEvent>
-
-#include "station/ScanSplitter.h"
 
 /// Tells a key that is held down from one that a scanner typed twice. The toolkit marks both as repeated: it
 /// takes a key that is released and pressed within one millisecond for held, and a fast scanner's doubled
@@ -17,5 +16,5 @@ class HeldKey {
 
  private:
   int m_key = 0;
-  std::optional<ScanSplitter::Time> m_pressed;
+  std::optional<std::chrono::milliseconds> m_pressed;
 };

@@ -14,9 +14,12 @@ bool isDigits(const QString& text) {
   return std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
 }
 
+bool isWholeCards(const QString& text) {
+  return text.size() % cardDigits == 0 && text.size() / cardDigits <= mostCards && isDigits(text);
+}
+
 QStringList codesIn(const QString& text) {
-  const bool isSeveral = text.size() % cardDigits == 0 && text.size() / cardDigits <= mostCards;
-  if (!isSeveral || !isDigits(text)) return {text};
+  if (!isWholeCards(text)) return {text};
   QStringList codes;
   for (qsizetype at = 0; at < text.size(); at += cardDigits) codes.append(text.mid(at, cardDigits));
   return codes;
@@ -25,7 +28,7 @@ QStringList codesIn(const QString& text) {
 }  // namespace
 
 QStringList ScanSplitter::character(QChar character, Time time) {
-  const bool goesOn = m_last && isSameScan(*m_last, time);
+  const bool goesOn = followsOn(time);
   QStringList codes = goesOn ? QStringList() : take();
   m_dropping = m_deaf || (m_dropping && goesOn);
   m_last = time;
@@ -48,9 +51,13 @@ void ScanSplitter::setDeaf(bool deaf) {
   if (deaf) m_text.clear();
 }
 
-bool ScanSplitter::isSameScan(Time before, Time time) {
+ScanSplitter::Time ScanSplitter::pauseNow() const {
+  return isWholeCards(m_text) ? pause : longPause;
+}
+
+bool ScanSplitter::followsOn(Time time) const {
   // The system's count of milliseconds starts again at 0 after seven weeks.
-  return time >= before && time - before < pause;
+  return m_last && time >= *m_last && time - *m_last < pauseNow();
 }
 
 QStringList ScanSplitter::take() {

@@ -64,7 +64,7 @@ QString unitName() {
 frmStation::frmStation(StationController controller)
     : m_controller(std::move(controller)),
       m_second(new QTimer(this)),
-      m_pause(singleTimer("tmrPause", ScanSplitter::pause - pauseEnds, this)),
+      m_pause(singleTimer("tmrPause", ScanSplitter::longPause - pauseEnds, this)),
       m_pauseEnd(singleTimer("tmrPauseEnd", pauseEnds, this)),
       m_answer(singleTimer("tmrAnswer", answerStands, this)),
       m_deaf(singleTimer("tmrDeaf", deafness, this)),
@@ -183,7 +183,7 @@ void frmStation::TakeKey(const QKeyEvent& event) {
     if (c.isPrint()) codes += m_splitter.character(c, time);
   }
   m_pauseEnd->stop();
-  m_pause->start();
+  m_pause->start(m_splitter.pauseNow() - pauseEnds);
   Scan(codes);
 }
 

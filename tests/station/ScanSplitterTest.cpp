@@ -34,13 +34,28 @@ TEST_F(Scanner, EnterEndsAScanAndAloneIsNone) {
   EXPECT_TRUE(splitter.finish().isEmpty());
 }
 
-TEST_F(Scanner, APauseOfSixtyMillisecondsEndsAScan) {
-  type(one.left(7));
-  wait(59);
-  EXPECT_TRUE(type(one.mid(7)).isEmpty());
+TEST_F(Scanner, APauseOfSixtyMillisecondsEndsAWholeCard) {
+  type(one);
+  EXPECT_EQ(splitter.pauseNow(), Time(60));
   wait(60);
   EXPECT_EQ(type(two), QStringList{one});
-  EXPECT_EQ(splitter.finish(), QStringList{two});
+  wait(59);
+  EXPECT_TRUE(type(three).isEmpty());
+  EXPECT_EQ(splitter.finish(), (QStringList{two, three}));
+}
+
+TEST_F(Scanner, TheRestOfACardIsWaitedForLonger) {
+  for (const QString& begun : {one.left(1), one.left(14), one + two.left(7), one.left(4) + u'X'}) {
+    type(begun);
+    EXPECT_EQ(splitter.pauseNow(), Time(250));
+    wait(249);
+    EXPECT_TRUE(type(one.mid(7)).isEmpty());
+    EXPECT_EQ(splitter.finish().join(QString()), begun + one.mid(7));
+    type(begun);
+    wait(250);
+    EXPECT_EQ(type(two).join(QString()), begun);
+    EXPECT_EQ(splitter.finish(), QStringList{two});
+  }
 }
 
 TEST_F(Scanner, TwoOrThreeCardsInOneAreToldApart) {

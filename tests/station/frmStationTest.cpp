@@ -2,95 +2,17 @@
 #include <gtest/gtest.h>
 #include <set>
 
-#include <QApplication>
-#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
-#include <QTest>
 #include <QWindow>
 
-#include "StationHome.h"
-#include "sound/Sound.h"
+#include "StationWindow.h"
 #include "station/PhotoView.h"
 #include "station/ResultLook.h"
-#include "station/frmStation.h"
-#include "support/ScriptedBoxes.h"
 
 namespace {
 
 using State = frmStation::State;
-
-/// Remembers what it was to play. Installed as long as it lives.
-class Ear : public sound::Host {
- public:
-  Ear() : m_before(sound::installHost(this)) {}
-  ~Ear() override { sound::installHost(m_before); }
-  void play(const sound::Signal& signal) override { heard.push_back(signal); }
-
-  std::vector<sound::Signal> heard;
-
- private:
-  sound::Host* m_before;
-};
-
-class StationWindow : public StationHome {
- protected:
-  frmStation& form() {
-    if (!m_form) {
-      m_form = std::make_unique<frmStation>();
-      m_form->show();
-      QCoreApplication::processEvents();
-    }
-    return *m_form;
-  }
-  void scan(const QString& code) {
-    QTest::keyClicks(&form(), code);
-    QTest::keyClick(&form(), Qt::Key_Return);
-  }
-  template <typename Control = QLabel>
-  Control& control(const char* name) {
-    auto* found = form().findChild<Control*>(QLatin1String(name));
-    EXPECT_NE(found, nullptr) << name;
-    return *found;
-  }
-  QString text(const char* name) { return control(name).text(); }
-  /// Lets the timer's time be over.
-  void ring(const char* name) { QMetaObject::invokeMethod(&control<QTimer>(name), "timeout"); }
-  void answerIsOver() {
-    control<QTimer>("tmrAnswer").stop();
-    ring("tmrAnswer");
-  }
-
-  Ear ear;
-  support::ScriptedBoxes boxes;
-
- private:
-  std::unique_ptr<frmStation> m_form;
-};
-
-/// A press of `digit` at `time` milliseconds, as the toolkit delivers it.
-void press(QWidget& form, QChar digit, quint64 time, bool marked) {
-  QKeyEvent event(QEvent::KeyPress, Qt::Key_0 + digit.digitValue(), Qt::NoModifier, QString(digit), marked);
-  event.setTimestamp(time);
-  QCoreApplication::sendEvent(&form, &event);
-}
-
-TEST_F(StationWindow, ADoubledDigitIsTypedTwiceAndAHeldKeyOnce) {
-  // The second of two equal keys in one millisecond is marked as repeated, as a held key's repeats are.
-  quint64 time = 1000;
-  for (qsizetype i = 0; i < first.size(); ++i) {
-    press(form(), first.at(i), time, i > 0 && first.at(i) == first.at(i - 1));
-    if (i % 2 == 1) ++time;
-  }
-  QTest::keyClick(&form(), Qt::Key_Return);
-  EXPECT_EQ(text("lblName"), QStringLiteral("钱进")) << "a card in one burst";
-
-  answerIsOver();
-  press(form(), u'7', 5000, false);
-  for (quint64 repeat = 5100; repeat < 5400; repeat += 30) press(form(), u'7', repeat, true);
-  QTest::keyClick(&form(), Qt::Key_Return);
-  EXPECT_EQ(text("lblResult"), QStringLiteral("未登记的卡号：7"));
-}
 
 TEST_F(StationWindow, AScanIsAnsweredForEyeAndEar) {
   EXPECT_EQ(form().state(), State::Ready);
