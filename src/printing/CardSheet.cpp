@@ -4,7 +4,7 @@
 #include <cmath>
 #include <utility>
 
-#include "printing/SingleEmployeeInfoReport.h"
+#include "printing/CardDesign.h"
 
 namespace {
 
@@ -50,16 +50,15 @@ int CardSheet::sheetsFor(int cards) const {
 }
 
 QSize CardSheet::step() {
-  return SingleEmployeeInfoReport::cardSize + QSize(gap, gap);
+  return card::size + QSize(gap, gap);
 }
 
 QRect CardSheet::box(int place) const {
-  constexpr QSize card = SingleEmployeeInfoReport::cardSize;
   const int column = (place - 1) % columns;
   const int row = (place - 1) / columns;
-  const QPoint corner((paperSize.width() - blockLength(card.width(), columns)) / 2 + toTwips(right),
-                      (paperSize.height() - blockLength(card.height(), rows)) / 2 + toTwips(down));
-  return {corner + QPoint(column * step().width(), row * step().height()), card};
+  const QPoint corner((paperSize.width() - blockLength(card::size.width(), columns)) / 2 + toTwips(right),
+                      (paperSize.height() - blockLength(card::size.height(), rows)) / 2 + toTwips(down));
+  return {corner + QPoint(column * step().width(), row * step().height()), card::size};
 }
 
 std::vector<QRect> CardSheet::cutLines() const {

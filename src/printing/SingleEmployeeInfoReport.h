@@ -10,9 +10,6 @@
 /// The sign-in cards, one a detail band, four a page.
 class SingleEmployeeInfoReport : public report::ActiveReport {
  public:
-  /// Twips, to the middle of the frame's lines.
-  static constexpr QSize cardSize{4677, 3260};
-
   SingleEmployeeInfoReport();
 
   /// Hands in the employees and starts the count anew. An empty pointer lets go of the ones before.
@@ -29,7 +26,6 @@ class SingleEmployeeInfoReport : public report::ActiveReport {
 
  private:
   void ApplyCardStyles();
-  void LoadLogo();
   [[nodiscard]] graphics::PicturePointer LoadPhoto(const clsEmployee& employee);
 
   std::shared_ptr<clsEmployeeSet> m_employees;

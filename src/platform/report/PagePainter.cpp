@@ -78,8 +78,7 @@ class PrimitivePainter {
 
 }  // namespace
 
-void paintPage(QPainter& painter, const Document& document, int index, PictureSource& pictures) {
-  const std::vector<Primitive> primitives = document.page(index);
+void paintPrimitives(QPainter& painter, const std::vector<Primitive>& primitives, PictureSource& pictures) {
   painter.save();
   painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
                          QPainter::SmoothPixmapTransform);
@@ -89,6 +88,10 @@ void paintPage(QPainter& painter, const Document& document, int index, PictureSo
   }
   paint.drawWaiting();
   painter.restore();
+}
+
+void paintPage(QPainter& painter, const Document& document, int index, PictureSource& pictures) {
+  paintPrimitives(painter, document.page(index), pictures);
 }
 
 }  // namespace report

@@ -33,8 +33,10 @@ class DecodingPictureSource : public PictureSource {
   std::unique_ptr<Cache> m_cache;
 };
 
-/// The one painter for screen, printer and PDF: draws page `index` of `document` with a painter whose unit is
-/// one twip and whose origin is the paper's top left corner. Leaves the painter's state as it was.
+/// The one painter for screen, printer and PDF: draws the primitives with a painter whose unit is one twip.
+/// Leaves the painter's state as it was.
+void paintPrimitives(QPainter& painter, const std::vector<Primitive>& primitives, PictureSource& pictures);
+/// Draws page `index` of `document`; the painter's origin is the paper's top left corner.
 void paintPage(QPainter& painter, const Document& document, int index, PictureSource& pictures);
 
 }  // namespace report

@@ -1,104 +1,91 @@
 #include "ui/cards/CardFace.h"
 
+#include <QBuffer>
 #include <QPainter>
 #include <QPainterPath>
 
-#include "graphics/Fonts.h"
 #include "graphics/Twips.h"
+#include "report/ControlPrimitives.h"
+#include "report/PagePainter.h"
 
 namespace {
 
 constexpr double enlargement = 1.6;
+/// Twips around the card, so that the lines of its frame are seen whole.
+constexpr int edge = 15;
+constexpr QRect face(-edge, -edge, card::size.width() + 2 * edge, card::size.height() + 2 * edge);
+constexpr QSize portraitSize(480, 640);
 
-// The card's own measures, twips.
-constexpr QRectF card(0, 0, 4677, 3260);
-constexpr QRectF logo(142, 142, 567, 567);
-constexpr QRectF unitLine(709, 283, 3826, 567);
-constexpr QRectF memoLine(142, 2835, 1500, 283);
-constexpr QRectF photo(710, 992, 1131, 1701);
-constexpr QRectF barcode(1901, 2835, 2434, 180);
-
-const QColor shade(0xd7, 0xdf, 0xe8);
-const QColor ink(0x90, 0x98, 0xa2);
-
-void drawPortrait(QPainter& painter) {
+/// Head and shoulders of nobody.
+graphics::PicturePointer samplePortrait() {
+  QImage image(portraitSize, QImage::Format_RGB32);
+  image.fill(QColor(0xd7, 0xdf, 0xe8));
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(shade);
-  painter.drawRect(photo);
   painter.setBrush(Qt::white);
-  painter.drawEllipse(photo.center() + QPointF(0, -250), 300, 340);
-  QPainterPath shoulders;
-  shoulders.addEllipse(photo.center() + QPointF(0, 900), 520, 720);
-  QPainterPath frame;
-  frame.addRect(photo);
-  painter.drawPath(shoulders.intersected(frame));
+  const QPointF center = QRectF(image.rect()).center();
+  painter.drawEllipse(center + QPointF(0, -90), 112, 130);
+  painter.drawEllipse(center + QPointF(0, 340), 200, 270);
+  painter.end();
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  image.save(&buffer, "png");
+  return std::make_shared<const graphics::Picture>(bytes, QStringLiteral("样张照片"));
 }
 
-void drawBarcode(QPainter& painter) {
-  painter.setBrush(ink);
-  constexpr int step = 60;
-  for (int x = 0; x < barcode.width() - step; x += step) {
-    const double width = (x / step) % 3 == 1 ? 36 : 18;
-    painter.drawRect(QRectF(barcode.left() + x, barcode.top(), width, barcode.height()));
-  }
-}
-
-void drawCaptions(QPainter& painter) {
-  painter.setPen(ink);
-  painter.setFont(graphics::twipFont({QStringLiteral("宋体"), 10.5}));
-  constexpr double left = 2693;
-  double top = 1134;
-  for (const QString& caption :
-       {QStringLiteral("姓名  张三"), QStringLiteral("岗位  教务处"), QStringLiteral("编号  A0001")}) {
-    painter.drawText(QRectF(left, top, 1700, 283), Qt::AlignLeft | Qt::AlignVCenter, caption);
-    top += 637;
-  }
+/// The card of somebody made up, without what the settings say.
+report::Section sampleCard() {
+  report::Section section = card::design();
+  section.control(QStringLiteral("lblName")).Caption = QStringLiteral("张三");
+  section.control(QStringLiteral("lblDept")).Caption = QStringLiteral("教务处");
+  section.control(QStringLiteral("lblNumber")).Caption = QStringLiteral("A0001");
+  section.control(QStringLiteral("Barcode")).Caption = QStringLiteral("123456789012345");
+  section.control(QStringLiteral("ImgHead")).Picture = samplePortrait();
+  return section;
 }
 
 }  // namespace
 
-CardFace::CardFace()
-    : imgCard(new QLabel(this)),
-      imgLogo(new QLabel(this)),
-      lblUnit(new CardText("lblUnit", unitLine.size(), Qt::AlignCenter)),
-      lblMemo(new CardText("lblMemo", memoLine.size(), Qt::AlignLeft | Qt::AlignVCenter)) {
+CardFace::CardFace() : imgCard(new QLabel(this)), imgLogo(new QLabel(this)) {
+  report::Section sample = sampleCard();
   imgCard->setObjectName(QStringLiteral("imgCard"));
   imgLogo->setObjectName(QStringLiteral("imgLogo"));
   imgLogo->setAlignment(Qt::AlignCenter);
+  lblUnit = new CardText(sample.control(card::unitLine().control));
+  lblMemo = new CardText(sample.control(card::memoLine().control));
   lblUnit->setParent(this);
   lblMemo->setParent(this);
-  setFixedSize(onScreen(card).size());
-  place(*imgCard, card);
-  place(*imgLogo, logo);
-  place(*lblUnit, unitLine);
-  place(*lblMemo, memoLine);
-  imgCard->setPixmap(background());
+  setFixedSize(onScreen(face).size());
+  imgCard->setGeometry(rect());
+  imgLogo->setGeometry(onScreen(sample.control(QStringLiteral("logPic")).rect()));
+  lblUnit->setGeometry(onScreen(lblUnit->label().rect()));
+  lblMemo->setGeometry(onScreen(lblMemo->label().rect()));
+  imgCard->setPixmap(background(std::move(sample)));
 }
 
-QRect CardFace::onScreen(const QRectF& box) const {
-  const auto pixels = [this](double twips) {
+QRect CardFace::onScreen(const QRect& box) const {
+  const auto pixels = [this](int twips) {
     return graphics::twipsToPixels(twips * enlargement, logicalDpiX());
   };
-  return {pixels(box.left()), pixels(box.top()), pixels(box.width()), pixels(box.height())};
+  return {pixels(box.left() - face.left()), pixels(box.top() - face.top()), pixels(box.width()),
+          pixels(box.height())};
 }
 
-void CardFace::place(QWidget& child, const QRectF& box) {
-  child.setGeometry(onScreen(box));
-}
-
-QPixmap CardFace::background() const {
+QPixmap CardFace::background(report::Section sample) const {
   QPixmap pixmap(size() * devicePixelRatio());
   pixmap.setDevicePixelRatio(devicePixelRatio());
   pixmap.fill(Qt::white);
+  std::vector<report::Primitive> primitives;
+  for (const report::Control& control : sample.Controls) {
+    if (control.Name != QStringLiteral("logPic")) report::appendControl(primitives, control, {});
+  }
+  report::DecodingPictureSource pictures;
   QPainter painter(&pixmap);
-  painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-  painter.scale(width() / card.width(), height() / card.height());
-  drawPortrait(painter);
-  drawBarcode(painter);
-  drawCaptions(painter);
-  painter.setPen(QPen(Qt::black, 30));
-  painter.setBrush(Qt::NoBrush);
-  painter.drawRect(card.adjusted(15, 15, -15, -15));
+  painter.scale(static_cast<double>(width()) / face.width(), static_cast<double>(height()) / face.height());
+  painter.translate(-face.topLeft());
+  report::paintPrimitives(painter, primitives, pictures);
   return pixmap;
 }
 

@@ -3,10 +3,12 @@
 #include <QLabel>
 
 #include "graphics/Picture.h"
+#include "printing/CardDesign.h"
 #include "ui/cards/CardText.h"
 
-/// A card on the screen, larger than life: what every card has alike stands on a background, unit line, memo
-/// and logo in their places. The children lblUnit, lblMemo and imgLogo are found by their names.
+/// A card on the screen, larger than life, as it will be printed: that of somebody made up is the background,
+/// unit line, memo and logo stand on it in their places. The children lblUnit, lblMemo and imgLogo are found
+/// by their names.
 class CardFace : public QWidget {
  public:
   CardFace();
@@ -18,9 +20,8 @@ class CardFace : public QWidget {
 
  private:
   /// The place on the screen of a box of the card, twips.
-  [[nodiscard]] QRect onScreen(const QRectF& box) const;
-  void place(QWidget& child, const QRectF& box);
-  [[nodiscard]] QPixmap background() const;
+  [[nodiscard]] QRect onScreen(const QRect& box) const;
+  [[nodiscard]] QPixmap background(report::Section sample) const;
 
   QLabel* imgCard;
   QLabel* imgLogo;

@@ -8,10 +8,8 @@
 #include <QGroupBox>
 
 #include "dialogs/Dialogs.h"
-#include "printing/DefaultLogo.h"
 #include "printing/LogoFile.h"
 #include "printing/clsLogo.h"
-#include "runtime/ProgramDirectory.h"
 #include "runtime/RuntimeError.h"
 
 namespace {
@@ -36,6 +34,13 @@ void color(QLabel& label, const QColor& ink) {
   label.setPalette(colours);
 }
 
+/// The size as a number without a fraction, halves rounded to the even one; empty when it is none or not
+/// above 0.
+QString wholePoints(double size) {
+  const double whole = std::nearbyint(size);
+  return whole > 0 && std::isfinite(whole) ? QString::number(whole, 'f', 0) : QString();
+}
+
 void warn(const QString& text) {
   dialogs::MsgBox(text, dialogs::Exclamation, QStringLiteral("警告"));
 }
@@ -52,13 +57,11 @@ frmCardSet::frmCardSet(QWidget* parent)
 }
 
 frmCardSet::Line frmCardSet::unitLine() {
-  return {QStringLiteral("UNIT"), QStringLiteral("隶书"), QStringLiteral("请输入签到卡显示的单位名称："),
-          m_card->unit()};
+  return {card::unitLine(), QStringLiteral("请输入签到卡显示的单位名称："), m_card->unit()};
 }
 
 frmCardSet::Line frmCardSet::memoLine() {
-  return {QStringLiteral("MEMO"), QStringLiteral("Arial"), QStringLiteral("请输入签到卡备注内容："),
-          m_card->memo()};
+  return {card::memoLine(), QStringLiteral("请输入签到卡备注内容："), m_card->memo()};
 }
 
 void frmCardSet::Form_Load() {
@@ -68,30 +71,18 @@ void frmCardSet::Form_Load() {
 }
 
 void frmCardSet::ShowStored(const Line& line) {
-  m_style.InitConfigGroupName(line.group);
-  const QString font = m_style.GetFont();
-  CardText::Look look;
-  look.caption = m_style.GetName();
-  look.font.name = font.isEmpty() ? line.designFont : font;
-  look.font.size = m_style.GetSize().toDouble();
-  look.color = m_style.GetColor();
-  look.font.bold = m_style.GetBold();
-  look.font.italic = m_style.GetItalic();
-  line.preview.setLook(look);
+  report::Section section = card::design();
+  card::applyStyle(section, line.design);
+  line.preview.setLabel(section.control(line.design.control));
 }
 
 void frmCardSet::ShowLogo() {
-  const QString path = runtime::nativePath(clsLogo().GetPath());
-  const bool isThere = !path.isEmpty() && runtime::isNormalFile(path);
-  const bool goes = isThere && logo::isDeletedLater(QFileInfo(path).fileName());
+  const card::Logo stored = card::storedLogo();
+  const bool goes = !stored.path.isEmpty() && logo::isDeletedLater(QFileInfo(stored.path).fileName());
   lblLogoWarning->setText(
       goes ? QStringLiteral("程序以后会删除与此标志同名的照片文件，请把图片改名后重新选择。") : QString());
-  try {
-    m_card->setLogo(isThere ? *logo::read(path) : *defaultLogo());
-  } catch (const runtime::RuntimeError& error) {
-    m_card->setLogo(*defaultLogo());
-    lblFailure->setText(error.description());
-  }
+  m_card->setLogo(*stored.picture);
+  if (!stored.failure.isEmpty()) lblFailure->setText(stored.failure);
 }
 
 void frmCardSet::BuildWindow() {
@@ -172,7 +163,7 @@ void frmCardSet::Tell(bool stored, const QString& what) {
 }
 
 void frmCardSet::AskText(const Line& line) {
-  m_style.InitConfigGroupName(line.group);
+  m_style.InitConfigGroupName(line.design.group);
   const auto answer = dialogs::InputBoxText({line.prompt, QStringLiteral("输入显示名称"), m_style.GetName()});
   const QString text = answer.value_or(QString()).trimmed();
   if (text.isEmpty()) return;
@@ -182,22 +173,27 @@ void frmCardSet::AskText(const Line& line) {
 }
 
 void frmCardSet::AskFont(const Line& line) {
-  m_style.InitConfigGroupName(line.group);
-  const auto chosen = dialogs::chooseFont(
-      {m_style.GetFont(), m_style.GetSize().toDouble(), m_style.GetBold(), m_style.GetItalic()});
-  if (!chosen) return;
-  const double size = std::nearbyint(chosen->size);
-  bool stored = true;
-  if (!chosen->name.trimmed().isEmpty()) stored = m_style.SetFont(chosen->name.trimmed());
-  if (size > 0 && std::isfinite(size)) stored = m_style.SetSize(QString::number(size, 'f', 0)) && stored;
-  stored = m_style.SetBold(chosen->bold) && stored;
-  stored = m_style.SetItalic(chosen->italic) && stored;
-  Tell(stored, QStringLiteral("字体"));
+  m_style.InitConfigGroupName(line.design.group);
+  const QString size = m_style.GetSize();
+  const dialogs::FontBox preset{m_style.GetFont(), size.toDouble(), m_style.GetBold(), m_style.GetItalic()};
+  const auto chosen = dialogs::chooseFont(preset);
+  // A cancelled box gives back what it was opened with, and that is stored too: only a size that was chosen
+  // is made a whole one.
+  const bool stored = StoreFont(chosen.value_or(preset), chosen ? wholePoints(chosen->size) : size);
+  if (chosen) Tell(stored, QStringLiteral("字体"));
   ShowStored(line);
 }
 
+bool frmCardSet::StoreFont(const dialogs::FontBox& font, const QString& points) {
+  bool stored = true;
+  if (!font.name.trimmed().isEmpty()) stored = m_style.SetFont(font.name.trimmed());
+  if (!points.isEmpty()) stored = m_style.SetSize(points) && stored;
+  stored = m_style.SetBold(font.bold) && stored;
+  return m_style.SetItalic(font.italic) && stored;
+}
+
 void frmCardSet::AskColor(const Line& line) {
-  m_style.InitConfigGroupName(line.group);
+  m_style.InitConfigGroupName(line.design.group);
   const auto chosen = dialogs::chooseColor({m_style.GetColor()});
   if (!chosen) return;
   Tell(m_style.SetColor(chosen->color), QStringLiteral("颜色"));

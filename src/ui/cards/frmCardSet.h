@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "dialogs/Dialogs.h"
 #include "printing/clsTextDspStyle.h"
 #include "ui/cards/CardFace.h"
 
@@ -22,10 +23,9 @@ class frmCardSet : public QDialog {
   void btnMemoColor_Click();
 
  private:
-  /// One of the two lines: its group in the settings, its preview and its question.
+  /// One of the two lines, its question and its preview.
   struct Line {
-    QString group;
-    QString designFont;
+    const card::Line& design;
     QString prompt;
     CardText& preview;
   };
@@ -41,6 +41,9 @@ class frmCardSet : public QDialog {
 
   void AskText(const Line& line);
   void AskFont(const Line& line);
+  /// Stores name, size in points, bold and italic, a name and a size only when there are any; whether that
+  /// was done.
+  [[nodiscard]] bool StoreFont(const dialogs::FontBox& font, const QString& points);
   void AskColor(const Line& line);
   /// Shows what the settings hold, which is what the card prints.
   void ShowStored(const Line& line);

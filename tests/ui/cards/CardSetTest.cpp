@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QImage>
 
+#include "../../graphics/DarkPixels.h"
 #include "../../graphics/PictureBytes.h"
 #include "printing/clsLogo.h"
 #include "support/Files.h"
@@ -14,8 +15,8 @@ namespace {
 
 class CardSet : public ::testing::Test {
  protected:
-  static CardText::Look look(const frmCardSet& form, const char* name) {
-    return dynamic_cast<CardText&>(*form.findChild<QWidget*>(QLatin1String(name))).look();
+  static report::Control label(const frmCardSet& form, const char* name) {
+    return dynamic_cast<CardText&>(*form.findChild<QWidget*>(QLatin1String(name))).label();
   }
   static QString text(const frmCardSet& form, const char* name) {
     return form.findChild<QLabel*>(QLatin1String(name))->text();
@@ -54,9 +55,9 @@ TEST_F(CardSet, ATextIsTrimmedStoredAndShownAndABlankOneIsNot) {
     boxes.expectInput(answer);
     form.btnUnitName_Click();
   }
-  EXPECT_EQ(look(form, "lblUnit").caption, QStringLiteral("青禾学校"));
+  EXPECT_EQ(label(form, "lblUnit").Caption, QStringLiteral("青禾学校"));
   EXPECT_EQ(stored("UNIT").GetName(), QStringLiteral("青禾学校"));
-  EXPECT_EQ(look(frmCardSet(), "lblUnit"), look(form, "lblUnit"));
+  EXPECT_EQ(label(frmCardSet(), "lblUnit"), label(form, "lblUnit"));
 }
 
 TEST_F(CardSet, FontSizesAreWholePointsHalvesToTheEvenOnes) {
@@ -71,8 +72,52 @@ TEST_F(CardSet, FontSizesAreWholePointsHalvesToTheEvenOnes) {
   form.btnMemoFont_Click();
   boxes.expectFont(std::nullopt);
   form.btnMemoFont_Click();
-  const auto shown = look(form, "lblMemo").font;
+  const auto shown = label(form, "lblMemo").Font;
   EXPECT_EQ(shown, (graphics::FontDescription{QStringLiteral("楷体"), 12, false, true}));
+}
+
+TEST_F(CardSet, ACancelledFontBoxStoresTheStyleThatItWasOpenedWith) {
+  frmCardSet form;
+  boxes.expectFont(std::nullopt);
+  form.btnUnitFont_Click();
+  const QString settings =
+      QString::fromLatin1(support::contentOf(home.file(QStringLiteral("attendance.ini"))));
+  EXPECT_TRUE(settings.contains(QStringLiteral("DSPSIZE=14")) &&
+              settings.contains(QStringLiteral("DSPBOLD=0")) &&
+              settings.contains(QStringLiteral("DSPITALIC=0")));
+  EXPECT_FALSE(settings.contains(QStringLiteral("DSPFONT")));
+
+  clsTextDspStyle style = stored("UNIT");
+  ASSERT_TRUE(style.SetFont(QStringLiteral("楷体")) && style.SetSize(QStringLiteral("8.5")) &&
+              style.SetBold(true));
+  boxes.expectFont(std::nullopt);
+  form.btnUnitFont_Click();
+  EXPECT_EQ(style.GetFont(), QStringLiteral("楷体"));
+  EXPECT_EQ(style.GetSize(), QStringLiteral("8.5"));
+  EXPECT_TRUE(style.GetBold() && !style.GetItalic());
+  EXPECT_EQ(label(form, "lblUnit").Font,
+            (graphics::FontDescription{QStringLiteral("楷体"), 8.5, true, false}));
+}
+
+TEST_F(CardSet, TheCardOnTheScreenHasEverythingWhereItIsPrinted) {
+  frmCardSet form;
+  boxes.expectInput(QStringLiteral("青禾实验学校"));
+  form.btnUnitName_Click();
+  boxes.expectInput(QStringLiteral("memo"));
+  form.btnMemoText_Click();
+  auto* face = form.findChild<QLabel*>(QStringLiteral("imgCard"))->parentWidget();
+  const QImage shown = face->grab().toImage();
+  // The frame's lines are drawn whole, so the picture is a little larger than the card.
+  const double scale = shown.width() / (card::size.width() + 30.0);
+  const auto darkIn = [&](const QRectF& box) {
+    const QRectF moved = box.translated(15, 15);
+    return darkPixels(shown, QRectF(moved.topLeft() * scale, moved.size() * scale).toRect());
+  };
+  for (const report::Control& control : card::design().Controls) {
+    if (control.Kind == report::ControlKind::Image) continue;
+    EXPECT_GT(darkIn(control.rect()), 0) << control.Name.toStdString();
+  }
+  EXPECT_EQ(darkIn({300, 800, 4000, 150}), 0) << "between unit line and photo";
 }
 
 TEST_F(CardSet, ColoursAreKeptByGroup) {
@@ -81,7 +126,7 @@ TEST_F(CardSet, ColoursAreKeptByGroup) {
   form.btnUnitColor_Click();
   boxes.expectColor(dialogs::ColorBox{-1});
   form.btnMemoColor_Click();
-  EXPECT_EQ(look(form, "lblUnit").color, 255);
+  EXPECT_EQ(label(form, "lblUnit").ForeColor, 255);
   EXPECT_EQ(stored("MEMO").GetColor(), -1);
   EXPECT_FALSE(form.grab().isNull());
 }
@@ -128,7 +173,7 @@ TEST_F(CardSet, SaysWhatCouldNotBeStored) {
     EXPECT_TRUE(text(form, "lblFailure").contains(QStringLiteral("未能保存")))
         << refused.left(5).toStdString();
   }
-  EXPECT_EQ(look(form, "lblMemo").caption, stored("MEMO").GetName()) << "the card prints what is stored";
+  EXPECT_EQ(label(form, "lblMemo").Caption, stored("MEMO").GetName()) << "the card prints what is stored";
 }
 
 TEST_F(CardSet, ALogoWhosePathCannotBeStoredLeavesTheFormerOne) {
