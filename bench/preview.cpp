@@ -20,7 +20,7 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 
-#include "attendance/MonthLoader.h"
+#include "attendance/MonthData.h"
 #include "foundation/GlobalDefine.h"
 #include "graphics/Twips.h"
 #include "preview/PageImage.h"
@@ -64,7 +64,7 @@ report::Document cards() {
 report::Document month() {
   const AttendanceMonth october = *AttendanceMonth::make(2026, 10);
   EmployeeMonthReport report;
-  report.setMonth(october, QStringLiteral("学校"), loadMonth(october));
+  report.setMonth(loadMonth(october, QStringLiteral("学校")));
   return report.run();
 }
 

@@ -8,15 +8,18 @@ constexpr int lastDayOfMonthBefore = 5;
 }  // namespace
 
 std::optional<AttendanceMonth> AttendanceMonth::make(int year, int month) {
-  if (year < firstYear || year > lastYear || month < 1 || month > 12) return std::nullopt;
-  return AttendanceMonth(QDate(year, month, 1));
+  const QDate first(year, month, 1);
+  if (!first.isValid() || year < 1000 || year > 9999) return std::nullopt;
+  return AttendanceMonth(first);
 }
 
 std::optional<AttendanceMonth> AttendanceMonth::parse(const QString& text) {
   static const QRegularExpression form(QStringLiteral("^([0-9]{4})-([0-9]{2})\\z"));
   const QRegularExpressionMatch match = form.match(text);
   if (!match.hasMatch()) return std::nullopt;
-  return make(match.captured(1).toInt(), match.captured(2).toInt());
+  const int year = match.captured(1).toInt();
+  if (year < firstYear || year > lastYear) return std::nullopt;
+  return make(year, match.captured(2).toInt());
 }
 
 AttendanceMonth AttendanceMonth::proposedOn(const QDate& today) {
@@ -37,4 +40,8 @@ QString AttendanceMonth::text() const {
 
 QString AttendanceMonth::title(const QString& unit) const {
   return unit + text() + QStringLiteral("员工考勤报表");
+}
+
+QString weekdayText(const QDate& day) {
+  return QStringLiteral("一二三四五六日").mid(day.dayOfWeek() - 1, 1);
 }

@@ -6,15 +6,17 @@
 #include <QDate>
 #include <QString>
 
-/// A calendar month of the years 1900 to 9999.
+/// A calendar month of the years 1000 to 9999.
 class AttendanceMonth {
  public:
+  /// The years of the months that users may ask for. The database is asked for what came before the day after
+  /// a month, and after 9999-12-31 there is none.
   static constexpr int firstYear = 1900;
-  static constexpr int lastYear = 9999;
+  static constexpr int lastYear = 9998;
 
-  /// Nothing for a year or a month that is out of range.
+  /// Nothing for a month that does not exist or a year without four digits.
   [[nodiscard]] static std::optional<AttendanceMonth> make(int year, int month);
-  /// Reads `2026-11`; nothing for any other text.
+  /// Reads `2026-11`; nothing for any other text and for years that nobody may ask for.
   [[nodiscard]] static std::optional<AttendanceMonth> parse(const QString& text);
   /// The month that is most likely wanted on `today`: the month before until the 5th, else this one.
   [[nodiscard]] static AttendanceMonth proposedOn(const QDate& today);
@@ -35,3 +37,6 @@ class AttendanceMonth {
 
   QDate m_first;
 };
+
+/// 一 to 日.
+[[nodiscard]] QString weekdayText(const QDate& day);

@@ -1,8 +1,7 @@
 #include "attendance/MonthLoader.h"
 
-#include <limits>
-
 #include "ado/Recordset.h"
+#include "attendance/clsPresenceSet.h"
 #include "foundation/SqlText.h"
 #include "foundation/clsDbConn.h"
 #include "runtime/Conversions.h"
@@ -20,13 +19,6 @@ int recordsBetween(const QDate& first, const QDate& last) {
 
 }  // namespace
 
-std::shared_ptr<clsEmployeePresenceSet> loadMonth(const AttendanceMonth& month) {
-  constexpr int mostAtOnce = std::numeric_limits<std::int16_t>::max();
-  auto set = std::make_shared<clsEmployeePresenceSet>();
-  loadInRanges(*set, month.firstDay(), month.lastDay(), mostAtOnce);
-  return set;
-}
-
 void loadInRanges(clsEmployeePresenceSet& set, const QDate& first, const QDate& last, int atOnce) {
   if (first < last && recordsBetween(first, last) > atOnce) {
     const QDate middle = first.addDays(first.daysTo(last) / 2);
@@ -34,7 +26,9 @@ void loadInRanges(clsEmployeePresenceSet& set, const QDate& first, const QDate& 
     loadInRanges(set, middle.addDays(1), last, atOnce);
     return;
   }
-  if (set.LoadByDate(first, last)) return;
+  clsPresenceSet records;
+  if (records.LoadSet(first, last)) return set.AddRecords(records);
   throw runtime::RuntimeError(runtime::ErrorNumber::InvalidCall,
-                              QStringLiteral("考勤记录无法读取：") + set.lastFailure());
+                              QStringLiteral("考勤记录无法读取：") + records.lastFailure(),
+                              records.lastFailureKind());
 }

@@ -4,7 +4,6 @@
 
 #include <QHash>
 
-#include "attendance/clsPresenceSet.h"
 #include "runtime/Conversions.h"
 
 bool clsEmployeePresenceSet::LoadByDate(const QDate& startDate, const QDate& endDate) {
@@ -13,6 +12,11 @@ bool clsEmployeePresenceSet::LoadByDate(const QDate& startDate, const QDate& end
   m_lastFailure = records.lastFailure();
   if (!loaded) return false;
   [[maybe_unused]] const std::int16_t count = runtime::toInt16(records.Count());
+  AddRecords(records);
+  return true;
+}
+
+void clsEmployeePresenceSet::AddRecords(const clsPresenceSet& records) {
   // Letter case is folded once for each spelling of a number, not for each of tens of thousands of records.
   QHash<QString, std::shared_ptr<clsSingleEmployeeMonPresence>> known;
   for (const std::shared_ptr<clsPresence>& record : records) {
@@ -21,7 +25,6 @@ bool clsEmployeePresenceSet::LoadByDate(const QDate& startDate, const QDate& end
     if (!employee) employee = Add(record->ENUMBER(), record->ENAME(), record->ENUMBER());
     employee->tryAddPresence(record->enterTime(), record->exitTime());
   }
-  return true;
 }
 
 std::shared_ptr<clsSingleEmployeeMonPresence> clsEmployeePresenceSet::Add(const QString& ENUMBER,

@@ -5,6 +5,7 @@
 #include <QDate>
 #include <QString>
 
+#include "attendance/clsPresenceSet.h"
 #include "attendance/clsSingleEmployeeMonPresence.h"
 #include "runtime/KeyedCollection.h"
 
@@ -16,6 +17,8 @@ class clsEmployeePresenceSet {
   /// nothing was added then. More than 32,767 records are an Overflow that reaches the caller, and nothing
   /// was added: load shorter ranges one after the other.
   [[nodiscard]] bool LoadByDate(const QDate& startDate, const QDate& endDate);
+  /// Adds records as LoadByDate does, however many there are.
+  void AddRecords(const clsPresenceSet& records);
   /// Appends a new employee, under `sKey` when that is not empty, and returns it. A key that is already there
   /// is an error that reaches the caller.
   std::shared_ptr<clsSingleEmployeeMonPresence> Add(const QString& ENUMBER, const QString& ENAME,

@@ -4,7 +4,8 @@
 
 #include <QFileInfo>
 
-#include "attendance/MonthLoader.h"
+#include "attendance/MonthData.h"
+#include "cli/Cell.h"
 #include "cli/Database.h"
 #include "exchange/MonthCsv.h"
 #include "exchange/MonthWorkbook.h"
@@ -17,29 +18,12 @@ namespace cli {
 
 namespace {
 
-/// What a writer tells: how many employees have a record in the month.
-using Writer = int (*)(const AttendanceMonth& month, const QString& unit, const QString& path);
+using Writer = void (*)(const MonthData& data, const QString& path);
 
-int writeReport(const AttendanceMonth& month, const QString& unit, const QString& path) {
+void writeReport(const MonthData& data, const QString& path) {
   EmployeeMonthReport report;
-  report.setMonth(month, unit, loadMonth(month));
+  report.setMonth(data);
   report::writePdf(report.run(), path);
-  return report.presenceList->Count();
-}
-
-int writeData(const AttendanceMonth& month, const QString& unit, const QString& path,
-              void (*write)(const MonthData&, const QString&)) {
-  const MonthData data = loadMonthData(month, unit);
-  write(data, path);
-  return data.presence->Count();
-}
-
-int writeWorkbook(const AttendanceMonth& month, const QString& unit, const QString& path) {
-  return writeData(month, unit, path, writeMonthWorkbook);
-}
-
-int writeCsv(const AttendanceMonth& month, const QString& unit, const QString& path) {
-  return writeData(month, unit, path, writeMonthCsv);
 }
 
 struct Kind {
@@ -48,8 +32,8 @@ struct Kind {
 };
 
 constexpr std::array kinds = {Kind{QLatin1String("pdf"), writeReport},
-                              Kind{QLatin1String("xlsx"), writeWorkbook},
-                              Kind{QLatin1String("csv"), writeCsv}};
+                              Kind{QLatin1String("xlsx"), writeMonthWorkbook},
+                              Kind{QLatin1String("csv"), writeMonthCsv}};
 
 /// The kind of file that the path's ending asks for; null for any other ending.
 const Kind* kindOf(const QString& path) {
@@ -97,12 +81,13 @@ bool MonthCommand::drawsPictures() const {
 int MonthCommand::run(const Streams& streams) {
   const auto connection = openDatabase();
   runtime::requireFreeForOutput(m_out);
-  const AttendanceMonth month = *AttendanceMonth::parse(m_month);
-  const int employees = kindOf(m_out)->write(month, clsSchoolArea().SNAME(), m_out);
-  streams.out << QStringLiteral("已写入 %1 的考勤（有记录的员工 %2 名）：%3\n")
-                     .arg(month.text())
-                     .arg(employees)
-                     .arg(m_out);
+  const MonthData data = loadMonth(*AttendanceMonth::parse(m_month), clsSchoolArea().SNAME());
+  kindOf(m_out)->write(data, m_out);
+  streams.out << QStringLiteral("已写入 %1 的考勤（有记录的员工 %2 名）：")
+                     .arg(data.month.text())
+                     .arg(data.presence->Count())
+              << m_out << '\n';
+  if (!data.nobodys.empty()) streams.err << cell(sentenceOn(data.nobodys)) << '\n';
   return Done;
 }
 

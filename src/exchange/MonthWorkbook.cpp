@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "exchange/MonthSummary.h"
+#include "attendance/MonthSummary.h"
 #include "exchange/Workbook.h"
 #include "foundation/GlobalDefine.h"
 #include "runtime/DefaultText.h"
@@ -43,6 +43,7 @@ class MonthBook {
         m_heading(m_book.addFormat({.bold = true, .border = true, .centered = true})),
         m_weekendHeading(m_book.addFormat({.bold = true, .border = true, .centered = true, .shaded = true})),
         m_left(m_book.addFormat({.border = true})),
+        m_note(m_book.addFormat({})),
         m_centered(m_book.addFormat({.border = true, .centered = true})),
         m_weekend(m_book.addFormat({.border = true, .centered = true, .shaded = true})) {}
 
@@ -126,7 +127,9 @@ class MonthBook {
     for (const MonthSummary& summary : summarize(m_data.employees, *m_data.presence, m_days)) {
       writeSummary(sheet, row++, summary);
     }
+    writeNobodys(sheet, row + 1);
     sheet.freeze(firstSummaryRow, nameColumn + 1);
+    sheet.printUpright();
   }
 
   void writeSummary(Sheet& sheet, int row, const MonthSummary& summary) {
@@ -138,6 +141,17 @@ class MonthBook {
     sheet.writeText(row, column, timeText(summary.latestDeparture), m_centered);
   }
 
+  /// So that the records of the month add up to those in the database.
+  void writeNobodys(Sheet& sheet, int row) {
+    if (m_data.nobodys.empty()) return;
+    sheet.writeText(row++, numberColumn, QStringLiteral("以下员工号已不在员工表中，其考勤记录没有列入："),
+                    m_note);
+    for (const NobodysPresence& of : m_data.nobodys) {
+      sheet.writeText(row, numberColumn, of.number, m_left);
+      sheet.writeText(row++, nameColumn, QStringLiteral("%1 条").arg(of.records), m_left);
+    }
+  }
+
   const MonthData& m_data;
   const std::vector<QDate> m_days;
   Workbook m_book;
@@ -145,6 +159,7 @@ class MonthBook {
   lxw_format* m_heading;
   lxw_format* m_weekendHeading;
   lxw_format* m_left;
+  lxw_format* m_note;
   lxw_format* m_centered;
   lxw_format* m_weekend;
   /// By the minute of the day.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "exchange/MonthData.h"
+#include "attendance/MonthData.h"
 
 /// Writes the month as a workbook to `path`. Sheet 月考勤: a row an employee with a record, a pair of columns
 /// a day (arrival, departure); sheet 汇总: a row an employee, absent ones too. Numbers of employees and times

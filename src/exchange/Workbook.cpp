@@ -15,6 +15,7 @@ namespace {
 constexpr const char* fontName = "宋体";
 constexpr lxw_color_t shade = 0xEDEDED;
 constexpr std::uint8_t a3Paper = 8;
+constexpr std::uint8_t a4Paper = 9;
 
 [[noreturn]] void fail(const QString& reason) {
   throw runtime::RuntimeError(runtime::ErrorNumber::FileIo, QStringLiteral("工作簿无法生成：%1").arg(reason));
@@ -61,9 +62,17 @@ void Sheet::freeze(int r, int c) {
   require(worksheet_repeat_columns(m_sheet, 0, column(c - 1)));
 }
 
+void Sheet::printUpright() {
+  printOn(a4Paper);
+}
+
 void Sheet::printAcross() {
   worksheet_set_landscape(m_sheet);
-  worksheet_set_paper(m_sheet, a3Paper);
+  printOn(a3Paper);
+}
+
+void Sheet::printOn(std::uint8_t paper) {
+  worksheet_set_paper(m_sheet, paper);
   worksheet_fit_to_pages(m_sheet, 1, 0);
 }
 

@@ -33,12 +33,15 @@ class Sheet {
   void setWidth(int column, int lastColumn, double width);
   /// Keeps the rows above and the columns before that place in view and on every printed page.
   void freeze(int row, int column);
-  /// Printed across, one page wide.
+  /// Printed one page wide, upright on A4 or across on A3.
+  void printUpright();
   void printAcross();
   /// No warning that the numbers in this column are texts.
   void allowTextNumbers(int column);
 
  private:
+  void printOn(std::uint8_t paper);
+
   lxw_worksheet* m_sheet;
 };
 

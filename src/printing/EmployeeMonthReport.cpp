@@ -1,9 +1,11 @@
 #include "printing/EmployeeMonthReport.h"
 
+#include <array>
+
 #include "foundation/GlobalDefine.h"
 #include "runtime/Clock.h"
-#include "runtime/Conversions.h"
 #include "runtime/DefaultText.h"
+#include "runtime/RuntimeError.h"
 
 namespace {
 
@@ -138,12 +140,11 @@ EmployeeMonthReport::EmployeeMonthReport() {
   designFooter(PageFooter);
 }
 
-void EmployeeMonthReport::setMonth(const AttendanceMonth& month, const QString& unit,
-                                   std::shared_ptr<clsEmployeePresenceSet> presence) {
-  schoolName = unit;
-  presenceYear = static_cast<std::int16_t>(month.year());
-  presenceMonth = static_cast<std::int16_t>(month.month());
-  presenceList = std::move(presence);
+void EmployeeMonthReport::setMonth(const MonthData& data) {
+  schoolName = data.unit;
+  presenceYear = static_cast<std::int16_t>(data.month.year());
+  presenceMonth = static_cast<std::int16_t>(data.month.month());
+  presenceList = data.presence;
 }
 
 int EmployeeMonthReport::expectedBands() const {
@@ -151,21 +152,21 @@ int EmployeeMonthReport::expectedBands() const {
 }
 
 void EmployeeMonthReport::ActiveReport_ReportStart() {
+  if (expectedBands() > mostEmployees) {
+    throw runtime::RuntimeError(
+        runtime::ErrorNumber::Overflow,
+        QStringLiteral(
+            "有考勤记录的员工有 %1 名，月报表最多能列出 %2 名。请改为导出 Excel 工作簿或 CSV 文件。")
+            .arg(expectedBands())
+            .arg(mostEmployees));
+  }
   report::LocalizeToolbar(Toolbar);
   PageHeader.control(QStringLiteral("lblSchoolName")).Caption = schoolName;
   PageHeader.control(QStringLiteral("lblMonth")).Caption = QString::number(presenceMonth);
   PageFooter.control(QStringLiteral("lblPrintDate")).Caption = runtime::dateText(runtime::now().date());
   const auto month = AttendanceMonth::make(presenceYear, presenceMonth);
   Title = month ? month->title(schoolName) : schoolName;
-  readDays();
-}
-
-void EmployeeMonthReport::readDays() {
-  for (std::size_t i = 0; i < m_days.size(); ++i) {
-    const auto moment =
-        runtime::parseDateTime(QStringLiteral("%1-%2-%3").arg(presenceYear).arg(presenceMonth).arg(i + 1));
-    m_days[i] = moment ? std::optional(moment->date()) : std::nullopt;
-  }
+  m_days = month ? month->days() : std::vector<QDate>();
 }
 
 void EmployeeMonthReport::ActiveReport_FetchData(bool& endOfData) {
@@ -175,11 +176,9 @@ void EmployeeMonthReport::ActiveReport_FetchData(bool& endOfData) {
   const std::shared_ptr<clsSingleEmployeeMonPresence> employee = presenceList->Item(m_row);
   // By place: looking 62 controls up by name would take longer than all else.
   Detail.Controls.front().Caption = employee->ENAME();
-  for (int day = 1; day <= daysInGrid; ++day) {
-    const std::optional<QDate>& date = m_days.at(static_cast<std::size_t>(day - 1));
-    if (!date) continue;
-    const std::size_t cell = enterCell(day);
-    Detail.Controls[cell].Caption = FormatShortTime(employee->GetEnterTime(*date));
-    Detail.Controls[cell + 1].Caption = FormatShortTime(employee->GetExitTime(*date));
+  for (const QDate& day : m_days) {
+    const std::size_t cell = enterCell(day.day());
+    Detail.Controls[cell].Caption = FormatShortTime(employee->GetEnterTime(day));
+    Detail.Controls[cell + 1].Caption = FormatShortTime(employee->GetExitTime(day));
   }
 }

@@ -1,14 +1,12 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <memory>
-#include <optional>
+#include <vector>
 
 #include <QDate>
 
-#include "attendance/AttendanceMonth.h"
-#include "attendance/clsEmployeePresenceSet.h"
+#include "attendance/MonthData.h"
 #include "report/ActiveReport.h"
 
 /// One month's sign-in and sign-out times, a detail band an employee. An object prints once: its counter goes
@@ -17,9 +15,11 @@ class EmployeeMonthReport : public report::ActiveReport {
  public:
   EmployeeMonthReport();
 
+  /// How many employees it can list; a run with more throws runtime::RuntimeError.
+  static constexpr int mostEmployees = 32'767;
+
   /// Sets all that is below.
-  void setMonth(const AttendanceMonth& month, const QString& unit,
-                std::shared_ptr<clsEmployeePresenceSet> presence);
+  void setMonth(const MonthData& data);
 
   /// Name of the unit in the heading.
   QString schoolName;
@@ -35,11 +35,7 @@ class EmployeeMonthReport : public report::ActiveReport {
   [[nodiscard]] int expectedBands() const override;
 
  private:
-  static constexpr int daysInGrid = 31;
-
-  void readDays();
-
-  /// Days of the grid that exist in the month.
-  std::array<std::optional<QDate>, daysInGrid> m_days;
-  std::int16_t m_row = 0;
+  /// Of the month, in order; none when there is no such month.
+  std::vector<QDate> m_days;
+  int m_row = 0;
 };

@@ -10,11 +10,22 @@ TEST(AttendanceMonth, ReadsOnlyMonthsThatExist) {
   EXPECT_EQ(month->days().size(), 29u);
   EXPECT_EQ(month->days().back(), month->lastDay());
   for (const auto* wrong :
-       {u"2026-00", u"2026-13", u"0000-01", u"1899-12", u"99999-01", u"2026-1", u"2026-011", u"2026-11\n",
-        u"2026/11", u" 2026-11", u"-026-11", u"２０２６-11", u""}) {
+       {u"2026-00", u"2026-13", u"0000-01", u"1899-12", u"9999-12", u"99999-01", u"2026-1", u"2026-011",
+        u"2026-11\n", u"2026/11", u" 2026-11", u"-026-11", u"２０２６-11", u""}) {
     const QString text = QString::fromUtf16(wrong);
     EXPECT_FALSE(AttendanceMonth::parse(text)) << text.toStdString();
   }
+}
+
+TEST(AttendanceMonth, MonthsThatNobodyMayAskForHaveTheirDays) {
+  for (const auto& [year, month] : {std::pair(1000, 1), {1899, 2}, {9999, 12}}) {
+    const auto made = AttendanceMonth::make(year, month);
+    ASSERT_TRUE(made) << year;
+    EXPECT_EQ(static_cast<int>(made->days().size()), QDate(year, month, 1).daysInMonth());
+    EXPECT_EQ(made->days().back().month(), month);
+  }
+  EXPECT_FALSE(AttendanceMonth::make(999, 1) || AttendanceMonth::make(10000, 1) ||
+               AttendanceMonth::make(2026, 0));
 }
 
 TEST(AttendanceMonth, TheMonthBeforeIsProposedUntilTheFifth) {

@@ -47,6 +47,16 @@ TEST_F(Month, AMonthWithoutRecordsIsWrittenToo) {
   EXPECT_TRUE(contentOf(path).startsWith("%PDF"));
 }
 
+TEST_F(Month, RecordsOfNobodyAreToldAndNoFault) {
+  home.execute(
+      QStringLiteral("INSERT INTO Presence(ENUMBER, ENTERTIME) VALUES('Z9', '2026-10-30 08:00:00')"));
+  const Outcome outcome = month(october, home.file(QStringLiteral("m.csv")));
+  EXPECT_EQ(outcome.code, 0);
+  EXPECT_TRUE(outcome.err.contains(QStringLiteral("另有 1 条考勤记录")) &&
+              outcome.err.contains(QStringLiteral("Z9")));
+  EXPECT_FALSE(contentOf(home.file(QStringLiteral("m.csv"))).contains("Z9"));
+}
+
 TEST_F(Month, AFailingDatabaseLeavesTheOldFile) {
   home.execute(QStringLiteral("DROP TABLE Presence"));
   for (const char* name : {"m.pdf", "m.xlsx", "m.csv"}) {

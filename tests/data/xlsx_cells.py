@@ -23,5 +23,8 @@ with zipfile.ZipFile(sys.argv[1]) as book:
             print(name, cell.get("r"), "t" if is_text else "n", shown, sep="\t")
         for pane in content.iter(MAIN + "pane"):
             print(name, "frozen", pane.get("topLeftCell"), sep="\t")
+        if any(setup.get("fitToPage") == "1" for setup in content.iter(MAIN + "pageSetUpPr")):
+            for setup in content.iter(MAIN + "pageSetup"):
+                print(name, "pages wide and high", setup.get("fitToWidth", "1"), setup.get("fitToHeight", "1"), sep="\t")
         for merged in content.iter(MAIN + "mergeCell"):
             print(name, "merged", merged.get("ref"), sep="\t")

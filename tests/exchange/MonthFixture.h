@@ -4,7 +4,7 @@
 
 #include <QTemporaryDir>
 
-#include "exchange/MonthData.h"
+#include "attendance/MonthData.h"
 #include "runtime/DefaultText.h"
 
 /// November 2026 of a unit with the employees 001 (three days), B2 (one day without sign-out) and C3
@@ -31,7 +31,8 @@ class MonthFixture : public ::testing::Test {
                  presence,
                  {{QStringLiteral("C3"), QStringLiteral("王五")},
                   {QStringLiteral("001"), QStringLiteral("张三")},
-                  {QStringLiteral("B2"), QStringLiteral("李四")}}};
+                  {QStringLiteral("B2"), QStringLiteral("李四")}},
+                 {}};
 
  private:
   QTemporaryDir m_directory;

@@ -89,6 +89,24 @@ TEST_F(MonthWorkbook, TheSummaryHasEveryEmployee) {
   EXPECT_EQ(cell(QStringLiteral("汇总"), QStringLiteral("frozen")), QStringLiteral("C3"));
 }
 
+TEST_F(MonthWorkbook, RecordsOfNobodyStandBelowTheSummary) {
+  data.nobodys = {{QStringLiteral("Z1"), 3}, {QStringLiteral("=1"), 1}};
+  write();
+  EXPECT_EQ(summary(7), list(QStringLiteral("|||||")));
+  EXPECT_TRUE(summary(8)[0].contains(QStringLiteral("已不在员工表中")));
+  EXPECT_EQ(summary(9), list(QStringLiteral("t Z1|t 3 条||||")));
+  EXPECT_EQ(summary(10), list(QStringLiteral("t =1|t 1 条||||")));
+}
+
+TEST_F(MonthWorkbook, BothSheetsArePrintedOnePageWide) {
+  write();
+  // As many pages high as it takes.
+  for (const QString& sheet : {QStringLiteral("月考勤"), QStringLiteral("汇总")}) {
+    EXPECT_EQ(cell(sheet, QStringLiteral("pages wide and high")), QStringLiteral("1 0"))
+        << sheet.toStdString();
+  }
+}
+
 TEST_F(MonthWorkbook, AMonthWithoutRecordsOrEmployeesIsStillAWorkbook) {
   data.presence = std::make_shared<clsEmployeePresenceSet>();
   data.employees.clear();

@@ -5,6 +5,7 @@
 #include "printing/EmployeeMonthReport.h"
 #include "runtime/DefaultText.h"
 #include "support/FixedClock.h"
+#include "support/Thrown.h"
 
 using report::BoxPrimitive;
 using report::Document;
@@ -96,7 +97,8 @@ TEST_F(MonthReport, DaysThatTheMonthDoesNotHaveStayEmpty) {
   struct Case {
     int year, month, days;
   };
-  for (const Case& month : {Case{2026, 2, 28}, Case{2028, 2, 29}, Case{2026, 11, 30}, Case{2026, 12, 31}}) {
+  for (const Case& month : {Case{1850, 2, 28}, Case{9999, 12, 31}, Case{2026, 2, 28}, Case{2028, 2, 29},
+                            Case{2026, 11, 30}, Case{2026, 12, 31}}) {
     EmployeeMonthReport fresh;
     fresh.presenceYear = static_cast<std::int16_t>(month.year);
     fresh.presenceMonth = static_cast<std::int16_t>(month.month);
@@ -105,6 +107,14 @@ TEST_F(MonthReport, DaysThatTheMonthDoesNotHaveStayEmpty) {
     fresh.presenceList = report.presenceList;
     EXPECT_EQ(daysShown(fresh.run()), daysUpTo(month.days)) << month.year << '-' << month.month;
   }
+}
+
+TEST_F(MonthReport, MoreEmployeesThanItCountsAreRefusedWithAdvice) {
+  addMany(EmployeeMonthReport::mostEmployees + 1);
+  const runtime::RuntimeError error = support::thrown([this] { std::ignore = report.run(); });
+  EXPECT_EQ(error.number(), static_cast<int>(runtime::ErrorNumber::Overflow));
+  EXPECT_TRUE(error.description().contains(QStringLiteral("32768 名")) &&
+              error.description().contains(QStringLiteral("Excel")));
 }
 
 TEST_F(MonthReport, AnObjectPrintsOnce) {

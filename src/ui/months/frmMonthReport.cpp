@@ -3,7 +3,6 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 
-#include "attendance/MonthLoader.h"
 #include "dialogs/Dialogs.h"
 #include "exchange/MonthWorkbook.h"
 #include "graphics/WaitCursor.h"
@@ -35,7 +34,8 @@ frmMonthReport::frmMonthReport(QWidget* parent)
     : QDialog(parent),
       txtYear(named("txtYear", new QSpinBox)),
       cbMonth(named("cbMonth", new QComboBox)),
-      txtSchoolName(named("txtSchoolName", new QLineEdit(m_area.SNAME()))) {
+      txtSchoolName(named("txtSchoolName", new QLineEdit(m_area.SNAME()))),
+      lblNobodys(named("lblNobodys", new QLabel)) {
   BuildWindow();
   const AttendanceMonth proposed = AttendanceMonth::proposedOn(runtime::now().date());
   txtYear->setValue(proposed.year());
@@ -49,6 +49,12 @@ void frmMonthReport::BuildWindow() {
   setObjectName(QStringLiteral("frmMonthReport"));
   auto* column = new QVBoxLayout(this);
   column->addLayout(BuildFields());
+  lblNobodys->setWordWrap(true);
+  lblNobodys->setTextFormat(Qt::PlainText);
+  // Room for the sentence, so that nothing moves when it comes.
+  lblNobodys->setFixedHeight(fontMetrics().lineSpacing() * 3);
+  lblNobodys->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  column->addWidget(lblNobodys);
   column->addSpacing(8);
   column->addLayout(BuildButtons());
   column->setSizeConstraint(QLayout::SetFixedSize);
@@ -96,6 +102,7 @@ QString frmMonthReport::Unit() const {
 
 void frmMonthReport::ShowMonth() {
   setWindowTitle(QStringLiteral("月考勤报表 - ") + Month().text());
+  lblNobodys->clear();
 }
 
 void frmMonthReport::StoreUnit() {
@@ -120,14 +127,18 @@ void frmMonthReport::Try(const std::function<void()>& work) const {
   }
 }
 
+MonthData frmMonthReport::Load() {
+  const graphics::WaitCursor wait;
+  MonthData loaded = loadMonth(Month(), Unit());
+  lblNobodys->setText(sentenceOn(loaded.nobodys));
+  return loaded;
+}
+
 void frmMonthReport::btnPreview_Click() {
   StoreUnit();
   Try([this] {
     EmployeeMonthReport report;
-    {
-      const graphics::WaitCursor wait;
-      report.setMonth(Month(), Unit(), loadMonth(Month()));
-    }
+    report.setMonth(Load());
     showMonthPreview(report);
   });
 }
@@ -144,16 +155,16 @@ void frmMonthReport::btnExport_Click() {
   Try([&] { Export(chosen.first()); });
 }
 
-void frmMonthReport::Export(const QString& path) const {
+void frmMonthReport::Export(const QString& path) {
   // Any other name may be that of a file that something else lives on.
   if (!path.endsWith(workbookEnding, Qt::CaseInsensitive)) {
     tell(QStringLiteral("文件名必须以“.xlsx”结尾：\n") + path);
     return;
   }
+  runtime::requireFreeForOutput(path);
   {
-    runtime::requireFreeForOutput(path);
     const graphics::WaitCursor wait;
-    writeMonthWorkbook(loadMonthData(Month(), Unit()), path);
+    writeMonthWorkbook(Load(), path);
   }
   dialogs::MsgBox(QStringLiteral("已导出%1的考勤：\n").arg(Month().text()) + path, dialogs::Information,
                   QStringLiteral("信息"));

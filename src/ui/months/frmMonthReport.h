@@ -4,10 +4,11 @@
 
 #include <QComboBox>
 #include <QDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
 
-#include "attendance/AttendanceMonth.h"
+#include "attendance/MonthData.h"
 #include "foundation/clsSchoolArea.h"
 
 /// Asks for a month and shows its report or exports it as a workbook. Opens on the month that is most likely
@@ -33,10 +34,13 @@ class frmMonthReport : public QDialog {
   void StoreUnit();
   /// Runs `work`, and tells of the error that ends it.
   void Try(const std::function<void()>& work) const;
-  void Export(const QString& path) const;
+  void Export(const QString& path);
+  /// The month that is chosen now. Shows what could not be listed. Throws runtime::RuntimeError.
+  [[nodiscard]] MonthData Load();
 
   clsSchoolArea m_area;
   QSpinBox* txtYear;
   QComboBox* cbMonth;
   QLineEdit* txtSchoolName;
+  QLabel* lblNobodys;
 };

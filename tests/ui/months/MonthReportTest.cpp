@@ -89,6 +89,17 @@ TEST_F(MonthReportDialog, TheExportProposesANameThatFileSystemsTake) {
   click(dialog, "btnExport");
 }
 
+TEST_F(MonthReportDialog, RecordsOfNobodyAreMentionedForTheMonthThatHasThem) {
+  home.execute(
+      QStringLiteral("INSERT INTO Presence(ENUMBER, ENTERTIME) VALUES('Z9', '2026-10-30 08:00:00')"));
+  frmMonthReport dialog;
+  EXPECT_EQ(child<QLabel>(dialog, "lblNobodys").text(), QString());
+  EXPECT_FALSE(previewTitle(dialog).isEmpty());
+  EXPECT_TRUE(child<QLabel>(dialog, "lblNobodys").text().contains(QStringLiteral("Z9（1 条）")));
+  child<QComboBox>(dialog, "cbMonth").setCurrentIndex(10);
+  EXPECT_EQ(child<QLabel>(dialog, "lblNobodys").text(), QString());
+}
+
 TEST_F(MonthReportDialog, OnlyAWorkbookIsReplaced) {
   frmMonthReport dialog;
   const QByteArray before = support::contentOf(home.databaseFile());

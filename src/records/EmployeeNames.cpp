@@ -1,4 +1,4 @@
-#include "exchange/EmployeeNames.h"
+#include "records/EmployeeNames.h"
 
 #include "ado/Recordset.h"
 #include "foundation/clsDbConn.h"

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "exchange/EmployeeNames.h"
+#include "records/EmployeeNames.h"
 #include "support/TestHome.h"
 
 TEST(EmployeeNames, AreThoseOfTheListAndTouchNoPhoto) {

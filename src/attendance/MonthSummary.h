@@ -6,7 +6,7 @@
 #include <QTime>
 
 #include "attendance/clsEmployeePresenceSet.h"
-#include "exchange/EmployeeNames.h"
+#include "records/EmployeeNames.h"
 
 /// One employee's month in a line.
 struct MonthSummary {

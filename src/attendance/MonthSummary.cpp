@@ -1,4 +1,4 @@
-#include "exchange/MonthSummary.h"
+#include "attendance/MonthSummary.h"
 
 #include <QHash>
 
