@@ -8,7 +8,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "FakePrinters.h"
 #include "SampleReport.h"
 #include "preview/PageView.h"
 #include "preview/PreviewToolbar.h"
@@ -20,9 +19,8 @@ using preview::PreviewToolbar;
 /// The preview of a document, with its parts at hand and scripted boxes.
 class PreviewWindowTest : public ::testing::Test {
  protected:
-  void open(const report::Document& document, const QString& printerFile = {}) {
-    window = std::make_unique<preview::PreviewWindow>(document, SampleReport(0).Toolbar,
-                                                      std::make_unique<FakePrinters>(printerFile));
+  void open(const report::Document& document) {
+    window = std::make_unique<preview::PreviewWindow>(document, SampleReport(0).Toolbar);
     window->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get())) << "keys reach active windows only";
     toolbar = window->findChild<PreviewToolbar*>(QStringLiteral("toolbar"));

@@ -1,7 +1,11 @@
 #include <QFileInfo>
 
+#include "FakeSpooler.h"
 #include "PreviewWindowFixture.h"
 #include "SampleReport.h"
+#include "support/Files.h"
+#include "support/PdfText.h"
+#include "support/PrintDialogDriver.h"
 
 TEST_F(PreviewWindowTest, OpensOnTheFirstPageWithWhatCanBeDoneThere) {
   open(sampleDocument(12));
@@ -91,4 +95,17 @@ TEST_F(PreviewWindowTest, WithoutAPrinterPrintingOffersAPdf) {
   boxes.expectMessage(file);
   use(PreviewToolbar::Print);
   EXPECT_TRUE(QFileInfo::exists(file));
+}
+
+TEST_F(PreviewWindowTest, PrintingKnowsThePageThatIsSeen) {
+  FakeSpooler spooler;
+  open(sampleDocument(4));
+  press(Qt::Key_End, Qt::ControlModifier);
+  const support::PrintDialogDriver user([](const preview::PrintDialog& dialog) {
+    dialog.findChild<QRadioButton*>(QStringLiteral("optCurrent"))->setChecked(true);
+  });
+  press(Qt::Key_P, Qt::ControlModifier);
+  const QString file = directory.filePath(QStringLiteral("x.pdf"));
+  support::writeFile(file, spooler.received);
+  EXPECT_EQ(support::textOfPages(file), QStringList{QStringLiteral("4")});
 }

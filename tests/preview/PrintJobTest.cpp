@@ -1,80 +1,114 @@
 #include <gtest/gtest.h>
 
-#include <QFileInfo>
-#include <QPageRanges>
 #include <QTemporaryDir>
 
+#include "FakeSpooler.h"
 #include "SampleReport.h"
+#include "preview/PageRange.h"
+#include "preview/PaperFit.h"
 #include "preview/PrintJob.h"
-#include "runtime/RuntimeError.h"
+#include "support/Files.h"
+#include "support/FullDisk.h"
+#include "support/PdfText.h"
+#include "support/Thrown.h"
 
 namespace {
 
 class PrintJobTest : public ::testing::Test {
  protected:
-  PrintJobTest() {
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(file);
+  [[nodiscard]] QString receivedFile() const {
+    support::writeFile(file, spooler.received);
+    return file;
   }
 
+  FakeSpooler spooler;
   QTemporaryDir directory;
-  QString file = directory.filePath(QStringLiteral("out.pdf"));
-  QPrinter printer{QPrinter::HighResolution};
+  QString file = directory.filePath(QStringLiteral("received.pdf"));
 };
 
-/// How many pages a PDF of Qt's own making has.
-qsizetype pagesIn(const QString& path) {
-  QFile file(path);
-  EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-  return file.readAll().count("/Type /Page\n");
+bool goOn(const QString& /*what*/, int /*done*/, int /*total*/) {
+  return true;
 }
 
 }  // namespace
 
-TEST_F(PrintJobTest, SettingsOfThePrinterChooseThePages) {
-  using Pages = std::vector<int>;
-  EXPECT_EQ(preview::pagesToPrint(printer, 3, 1), (Pages{0, 1, 2}));
-  printer.setPrintRange(QPrinter::CurrentPage);
-  EXPECT_EQ(preview::pagesToPrint(printer, 3, 1), (Pages{1}));
-  printer.setPrintRange(QPrinter::PageRange);
-  printer.setPageRanges(QPageRanges::fromString(QStringLiteral("1-2,5,9-12")));
-  EXPECT_EQ(preview::pagesToPrint(printer, 10, 0), (Pages{0, 1, 4, 8, 9}));
-  printer.setPageOrder(QPrinter::LastPageFirst);
-  EXPECT_EQ(preview::pagesToPrint(printer, 5, 0), (Pages{4, 1, 0}));
-  printer.setPageRanges(QPageRanges::fromString(QStringLiteral("7")));
-  EXPECT_TRUE(preview::pagesToPrint(printer, 5, 0).empty());
+TEST_F(PrintJobTest, HandsOverTheChosenPagesInTheirOrderAndSize) {
+  preview::PrintChoice choice;
+  choice.pages = {4, 0, 2};
+  choice.job.copies = 3;
+  EXPECT_EQ(preview::printPages(sampleDocument(5), choice, goOn), 1);
+  EXPECT_EQ(support::textOfPages(receivedFile()),
+            (QStringList{QStringLiteral("5"), QStringLiteral("1"), QStringLiteral("3")}));
+  EXPECT_EQ(support::firstPageOf(file).paper.toSize(), QSize(595, 842));
+  EXPECT_EQ(spooler.jobs.at(0).copies, 3);
 }
 
-TEST_F(PrintJobTest, CopiesThatThePrinterDoesNotMakeAreMadeHere) {
-  using Pages = std::vector<int>;
-  ASSERT_FALSE(printer.supportsMultipleCopies());
-  printer.setCopyCount(2);
-  printer.setCollateCopies(true);
-  EXPECT_EQ(preview::pagesToPrint(printer, 2, 0), (Pages{0, 1, 0, 1}));
-  printer.setCollateCopies(false);
-  EXPECT_EQ(preview::pagesToPrint(printer, 2, 0), (Pages{0, 0, 1, 1}));
-}
-
-TEST_F(PrintJobTest, PrintsTheChosenPagesAndTellsProgress) {
-  std::vector<std::pair<int, int>> told;
-  const report::Document document = sampleDocument(5);
-  preview::prepare(printer, document);
-  const bool printed = preview::printPages(printer, document, {0, 2, 4}, [&told](int done, int total) {
-    told.emplace_back(done, total);
-    return true;
-  });
-  EXPECT_TRUE(printed);
-  EXPECT_EQ(pagesIn(file), 3);
-  EXPECT_EQ(told, (std::vector<std::pair<int, int>>{{0, 3}, {1, 3}, {2, 3}, {3, 3}}));
-}
-
-TEST_F(PrintJobTest, JobThatCannotStartNamesItsTarget) {
-  const QString nowhere = directory.filePath(QStringLiteral("missing/out.pdf"));
-  printer.setOutputFileName(nowhere);
-  try {
-    std::ignore = preview::printPages(printer, sampleDocument(1), {0}, [](int, int) { return true; });
-    FAIL() << "printed to a directory that is not there";
-  } catch (const runtime::RuntimeError& error) {
-    EXPECT_TRUE(error.description().contains(nowhere));
+TEST_F(PrintJobTest, StoppedAtAnyMomentNothingIsHandedOver) {
+  preview::PrintChoice choice;
+  choice.pages = {0, 1, 2};
+  int calls = 0;
+  while (true) {
+    int left = calls;
+    const auto stop = [&left](const QString&, int, int) { return left-- > 0; };
+    if (preview::printPages(sampleDocument(3), choice, stop)) break;
+    EXPECT_TRUE(spooler.jobs.empty()) << "after " << calls;
+    ++calls;
   }
+  EXPECT_GE(calls, 5) << "three pages, their end, the hand-over";
+}
+
+TEST_F(PrintJobTest, AFullTemporaryFolderSendsNothing) {
+  preview::PrintChoice choice;
+  choice.pages = {0};
+  QString told;
+  {
+    const support::FullDisk full(1000);
+    told = support::thrown([&choice] {
+             std::ignore = preview::printPages(sampleDocument(1), choice, goOn);
+           }).description();
+  }
+  EXPECT_TRUE(told.contains(QDir::tempPath())) << told.toStdString();
+  EXPECT_TRUE(spooler.jobs.empty());
+}
+
+TEST(PageRange, NumbersAndRangesNamePages) {
+  using Pages = std::vector<int>;
+  const auto pages = [](const char16_t* text) { return preview::pagesOfRange(QString::fromUtf16(text), 10); };
+  EXPECT_EQ(pages(u"1-2,5,9-12"), (Pages{0, 1, 4, 8, 9}));
+  EXPECT_EQ(pages(u" ３ － ５，２、2 "), (Pages{1, 2, 3, 4}));
+  EXPECT_EQ(pages(u"9-"), (Pages{8, 9}));
+  EXPECT_EQ(pages(u"-2"), (Pages{0, 1}));
+  EXPECT_EQ(pages(u"4-2"), (Pages{1, 2, 3}));
+  EXPECT_EQ(pages(u"3至4"), (Pages{2, 3}));
+  EXPECT_EQ(pages(u"11,900000000"), Pages{});
+  EXPECT_EQ(pages(u"1-999999999").value().size(), 10U);
+  for (const auto* bad :
+       {u"", u",", u"1,,2", u"-", u"x", u"1-2-3", u"0", u"0-3", u"1.5", u"1 2", u"9999999999"}) {
+    EXPECT_FALSE(pages(bad)) << QString::fromUtf16(bad).toStdString();
+  }
+}
+
+TEST(PaperFit, AsksForThePaperOfThePage) {
+  const spooler::Paper letter{QStringLiteral("na_letter_8.5x11in"), {21590, 27940}};
+  const spooler::Paper a3{QStringLiteral("iso_a3_297x420mm"), {29700, 42000}};
+  const spooler::Paper a5{QStringLiteral("iso_a5_148x210mm"), {14817, 20990}};
+  const spooler::Paper turned{QStringLiteral("om_turned_297x210mm"), {29704, 20990}};
+  const spooler::Paper tabloid{QStringLiteral("na_ledger_11x17in"), {27940, 43180}};
+  const QSize page = preview::paperSizeOf({11906, 16838});
+  EXPECT_EQ(preview::sizeText(page), QStringLiteral("210 × 297 毫米"));
+  const auto best = [page](const std::vector<spooler::Paper>& papers, const spooler::Paper& usual) {
+    spooler::Details queue;
+    queue.papers = papers;
+    queue.defaultMedia = usual.media;
+    return preview::bestPaper(queue, page);
+  };
+  EXPECT_EQ(best({letter, a3, turned}, letter), 2);
+  EXPECT_EQ(best({letter, a3, tabloid}, tabloid), 2);
+  EXPECT_EQ(best({letter, a3, tabloid}, letter), 2) << "the smallest that it fits";
+  EXPECT_EQ(best({letter, a5}, a5), 1);
+  EXPECT_EQ(best({letter, a5}, a3), 0);
+  EXPECT_EQ(best({}, a3), -1);
+  EXPECT_FALSE(preview::fitsPaper(page, letter.size)) << "wider, but not as high";
+  EXPECT_TRUE(preview::isSamePaper(page, turned.size));
+  EXPECT_EQ(preview::paperText(letter), QStringLiteral("Letter（216 × 279 毫米）"));
 }

@@ -11,6 +11,7 @@
 #include "runtime/ProgramDirectory.h"
 #include "runtime/RuntimeError.h"
 #include "shell/DesktopShell.h"
+#include "spooler/CupsHost.h"
 #include "ui/frmMain.h"
 
 namespace {
@@ -57,10 +58,12 @@ void refreshHelp() {
 int run(const QCommandLineParser& parser) {
   dialogs::QtDialogHost boxes;
   shell::DesktopShell desktop;
+  spooler::CupsHost printers;
   const QString screenshot = parser.value(screenshotOption);
   // Nobody sits before a screenshot: messages go to standard error.
   if (screenshot.isEmpty()) dialogs::installHost(&boxes);
   shell::installHost(&desktop);
+  spooler::installHost(&printers);
   runtime::installOutputGuard(refuseOwnFile);
 
   const bool started = Main([&screenshot] {
@@ -70,6 +73,7 @@ int run(const QCommandLineParser& parser) {
   const int result = started ? QApplication::exec() : 1;
   gMainForm.reset();
   gConnection.reset();
+  spooler::installHost(nullptr);
   shell::installHost(nullptr);
   dialogs::installHost(nullptr);
   return result;

@@ -1,12 +1,12 @@
 #include "preview/DocumentOutput.h"
 
-#include <tuple>
-
 #include <QProgressDialog>
 #include <QRegularExpression>
 
 #include "dialogs/Dialogs.h"
 #include "graphics/WaitCursor.h"
+#include "preview/JobWatch.h"
+#include "preview/PrintDialog.h"
 #include "report/Pdf.h"
 #include "runtime/OutputGuard.h"
 #include "runtime/RuntimeError.h"
@@ -15,13 +15,19 @@ namespace preview {
 
 namespace {
 
-void tellFailure(const runtime::RuntimeError& error) {
-  dialogs::MsgBox(error.description(), dialogs::Exclamation, QStringLiteral("错误"));
+void tellFailure(const QString& words) {
+  dialogs::MsgBox(words, dialogs::Exclamation, QStringLiteral("错误"));
+}
+
+std::vector<spooler::Queue> foundQueues() {
+  const graphics::WaitCursor wait;
+  return spooler::queues();
 }
 
 PrintProgress shownBy(QProgressDialog& window) {
-  return [&window](int done, int total) {
-    window.setLabelText(QStringLiteral("正在打印第 %1 页，共 %2 页").arg(qMin(done + 1, total)).arg(total));
+  return [&window](const QString& what, int done, int total) {
+    window.setLabelText(what);
+    window.setMaximum(total);
     window.setValue(done);
     return !window.wasCanceled();
   };
@@ -40,52 +46,48 @@ QString pdfNameFor(const QString& title) {
   return fileNameFor(title, QStringLiteral(".pdf"));
 }
 
-DocumentOutput::DocumentOutput(report::Document document, std::unique_ptr<Printers> printers, QWidget* window)
-    : m_document(std::move(document)), m_printers(std::move(printers)), m_window(window) {}
+DocumentOutput::DocumentOutput(report::Document document, QWidget* window)
+    : m_document(std::move(document)), m_window(window) {}
+
+void DocumentOutput::offerPdf() {
+  const auto answer = dialogs::MsgBox(QStringLiteral("没有可用的打印机。要存为PDF文件吗？"),
+                                      dialogs::Question | dialogs::YesNo, QStringLiteral("询问"));
+  if (answer == dialogs::Answer::Yes) saveAsPdf();
+}
 
 void DocumentOutput::print(int currentPage) {
-  if (!m_printers->available()) {
-    const auto answer = dialogs::MsgBox(QStringLiteral("没有可用的打印机。要存为PDF文件吗？"),
-                                        dialogs::Question | dialogs::YesNo, QStringLiteral("询问"));
-    if (answer == dialogs::Answer::Yes) saveAsPdf();
-    return;
-  }
-  QPrinter printer(QPrinter::HighResolution);
-  prepare(printer, m_document);
-  if (!m_printers->choose(printer, m_document.pageCount(), m_window)) return;
-  // The dialog takes the margins of the printer that was chosen; positions count from the paper's corner.
-  printer.setFullPage(true);
-  const std::vector<int> pages = pagesToPrint(printer, m_document.pageCount(), currentPage);
-  if (pages.empty()) {
-    dialogs::MsgBox(QStringLiteral("所选范围内没有页。"), dialogs::Exclamation, QStringLiteral("警告"));
-    return;
-  }
+  const std::vector<spooler::Queue> queues = foundQueues();
+  if (queues.empty()) return offerPdf();
+  PrintDialog dialog(queues, m_document, currentPage, m_window);
+  if (dialog.exec() != QDialog::Accepted) return;
+  const PrintChoice choice = dialog.choice();
   try {
-    runJob(printer, pages);
+    const std::optional<int> number = runJob(choice);
+    if (number) {
+      new JobWatch(choice.job, *number, dialog.printerStopped(), m_window);
+    } else {
+      dialogs::MsgBox(QStringLiteral("打印已取消，什么也没有打印。"), dialogs::Information,
+                      QStringLiteral("信息"));
+    }
   } catch (const runtime::RuntimeError& error) {
-    tellFailure(error);
+    tellFailure(QStringLiteral("打印失败：") + error.description());
   }
 }
 
-void DocumentOutput::runJob(QPrinter& printer, const std::vector<int>& pages) {
-  const int sheets = static_cast<int>(pages.size());
-  if (sheets <= quietSheets) {
+std::optional<int> DocumentOutput::runJob(const PrintChoice& choice) {
+  if (choice.pages.size() <= quietPages) {
     const graphics::WaitCursor wait;
-    std::ignore = printPages(printer, m_document, pages, [](int, int) { return true; });
-    return;
+    return printPages(m_document, choice, [](const QString&, int, int) { return true; });
   }
   QProgressDialog window(m_window);
   window.setWindowTitle(QStringLiteral("打印"));
   window.setCancelButtonText(QStringLiteral("取消"));
   window.setWindowModality(Qt::WindowModal);
   window.setMinimumDuration(0);
-  window.setRange(0, sheets);
-  const bool printed = printPages(printer, m_document, pages, shownBy(window));
-  window.close();
-  if (!printed) {
-    dialogs::MsgBox(QStringLiteral("打印已取消，已送往打印机的页可能仍会打印出来。"), dialogs::Information,
-                    QStringLiteral("信息"));
-  }
+  // It counts twice: pages, then bytes.
+  window.setAutoReset(false);
+  window.setAutoClose(false);
+  return printPages(m_document, choice, shownBy(window));
 }
 
 void DocumentOutput::saveAsPdf() {
@@ -101,7 +103,7 @@ void DocumentOutput::saveAsPdf() {
     const graphics::WaitCursor wait;
     report::writePdf(m_document, chosen.first());
   } catch (const runtime::RuntimeError& error) {
-    return tellFailure(error);
+    return tellFailure(error.description());
   }
   dialogs::MsgBox(QStringLiteral("已存为PDF文件：\n") + chosen.first(), dialogs::Information,
                   QStringLiteral("信息"));

@@ -1,11 +1,8 @@
 #pragma once
 
-#include <memory>
-
 #include <QWidget>
 
 #include "preview/PrintJob.h"
-#include "preview/Printers.h"
 #include "report/Document.h"
 
 namespace preview {
@@ -13,21 +10,23 @@ namespace preview {
 /// What the user does to take a document out of the preview, with all questions and messages.
 class DocumentOutput {
  public:
-  /// Sheets up to which printing shows no progress.
-  static constexpr int quietSheets = 50;
+  /// Pages up to which printing shows no progress.
+  static constexpr int quietPages = 50;
 
-  DocumentOutput(report::Document document, std::unique_ptr<Printers> printers, QWidget* window);
+  DocumentOutput(report::Document document, QWidget* window);
 
-  /// Lets the user choose a printer and prints; without a printer offers a PDF.
+  /// Lets the user choose a printer, prints, and keeps an eye on the job as long as the window is there;
+  /// without a printer offers a PDF.
   void print(int currentPage);
   /// Lets the user choose a file and writes the PDF.
   void saveAsPdf();
 
  private:
-  void runJob(QPrinter& printer, const std::vector<int>& pages);
+  void offerPdf();
+  /// The job's number; nothing when the user cancelled it.
+  [[nodiscard]] std::optional<int> runJob(const PrintChoice& choice);
 
   report::Document m_document;
-  std::unique_ptr<Printers> m_printers;
   QWidget* m_window;
 };
 

@@ -19,7 +19,6 @@
 #include "preview/PageHistory.h"
 #include "preview/PageView.h"
 #include "preview/PreviewToolbar.h"
-#include "preview/Printers.h"
 
 namespace preview {
 
@@ -34,8 +33,7 @@ constexpr int contentsWidth = 210;
 
 class PreviewWindow::Parts {
  public:
-  Parts(PreviewWindow& window, report::Document document, const report::Toolbar& texts,
-        std::unique_ptr<Printers> printers);
+  Parts(PreviewWindow& window, report::Document document, const report::Toolbar& texts);
 
   /// Leaves the page box or closes the find bar; whether there was something to do before closing the window.
   bool escape();
@@ -71,8 +69,7 @@ class PreviewWindow::Parts {
   Zoom m_singleZoom;
 };
 
-PreviewWindow::Parts::Parts(PreviewWindow& window, report::Document document, const report::Toolbar& texts,
-                            std::unique_ptr<Printers> printers)
+PreviewWindow::Parts::Parts(PreviewWindow& window, report::Document document, const report::Toolbar& texts)
     : m_window(window),
       m_pages(document.pageCount()),
       m_toolbar(new PreviewToolbar(texts, &window)),
@@ -80,7 +77,7 @@ PreviewWindow::Parts::Parts(PreviewWindow& window, report::Document document, co
       m_contents(new ContentsPane(document, &window)),
       m_findBar(new FindBar(&window)),
       m_find(*m_view, *m_findBar, nullptr),
-      m_output(std::move(document), std::move(printers), &window),
+      m_output(std::move(document), &window),
       m_singleZoom(m_view->zoom()) {
   arrange();
   connectOutput();
@@ -273,12 +270,7 @@ bool PreviewWindow::Parts::escape() {
 }
 
 PreviewWindow::PreviewWindow(report::Document document, const report::Toolbar& toolbar, QWidget* parent)
-    : PreviewWindow(std::move(document), toolbar, std::make_unique<SystemPrinters>(), parent) {}
-
-PreviewWindow::PreviewWindow(report::Document document, const report::Toolbar& toolbar,
-                             std::unique_ptr<Printers> printers, QWidget* parent)
-    : QDialog(parent),
-      m_parts(std::make_unique<Parts>(*this, std::move(document), toolbar, std::move(printers))) {}
+    : QDialog(parent), m_parts(std::make_unique<Parts>(*this, std::move(document), toolbar)) {}
 
 PreviewWindow::~PreviewWindow() = default;
 

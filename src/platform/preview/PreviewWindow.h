@@ -9,8 +9,6 @@
 
 namespace preview {
 
-class Printers;
-
 /// Shows a laid-out report page by page, with its table of contents, finds texts in it, prints it, copies
 /// pages and stores it as PDF. Pages are painted when they come into view, into a bounded cache. Control
 /// names: `toolbar`, `view`, `contents`, `findBar`, `cmbZoom`, `txtPage`; a tool's action is found by its
@@ -20,9 +18,6 @@ class PreviewWindow : public QDialog {
 
  public:
   PreviewWindow(report::Document document, const report::Toolbar& toolbar, QWidget* parent = nullptr);
-  /// With other printers than the system's.
-  PreviewWindow(report::Document document, const report::Toolbar& toolbar, std::unique_ptr<Printers> printers,
-                QWidget* parent = nullptr);
   ~PreviewWindow() override;
 
  protected:

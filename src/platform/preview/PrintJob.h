@@ -1,26 +1,27 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <vector>
 
-#include <QPrinter>
-
 #include "report/Document.h"
+#include "spooler/Spooler.h"
 
 namespace preview {
 
-/// Tells how many sheets are done; false stops the job.
-using PrintProgress = std::function<bool(int done, int total)>;
+/// What the user wants on paper.
+struct PrintChoice {
+  spooler::Job job;
+  /// From 0, in the order of printing.
+  std::vector<int> pages;
+};
 
-/// Gives the printer the paper and the name of `document`.
-void prepare(QPrinter& printer, const report::Document& document);
-/// The pages that the printer's settings ask for, from 0 and in the order of printing: range, reversed order,
-/// and copies when the printer does not make them itself.
-[[nodiscard]] std::vector<int> pagesToPrint(const QPrinter& printer, int pageCount, int currentPage);
-/// Prints `pages` at their true size, smaller only when the printer's paper is smaller; whether all of them
-/// were printed. When `progress` stops the job, pages may already be on their way. Throws
-/// runtime::RuntimeError when the job cannot start or breaks off.
-[[nodiscard]] bool printPages(QPrinter& printer, const report::Document& document,
-                              const std::vector<int>& pages, const PrintProgress& progress);
+/// Tells what is being done and how far it is; false stops.
+using PrintProgress = std::function<bool(const QString& what, int done, int total)>;
+
+/// Makes a PDF of the pages at their true size aside and, once it is complete, hands it to the queue. The
+/// job's number; nothing, and nothing printed, when `progress` stopped it. Throws runtime::RuntimeError.
+[[nodiscard]] std::optional<int> printPages(const report::Document& document, const PrintChoice& choice,
+                                            const PrintProgress& progress);
 
 }  // namespace preview

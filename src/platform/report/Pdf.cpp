@@ -1,5 +1,8 @@
 #include "report/Pdf.h"
 
+#include <numeric>
+#include <optional>
+
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QPageSize>
@@ -30,36 +33,59 @@ void setUp(QPdfWriter& writer, const Document& document) {
   writer.setCreator(QCoreApplication::applicationName());
 }
 
-/// Draws all pages; `asTheyAre` keeps drawn pictures without the losses of a second compression.
-void drawPages(const Document& document, PictureSource& pictures, bool asTheyAre, QIODevice& target) {
-  if (document.pageCount() == 0) fail(QStringLiteral("报表没有页面"));
+/// What a PDF is made of.
+struct Content {
+  const Document& document;
+  std::vector<int> pages;
+  PageProgress progress;
+};
+
+Content wholeOf(const Document& document) {
+  std::vector<int> pages(document.pageCount());
+  std::iota(pages.begin(), pages.end(), 0);
+  return {document, std::move(pages), [](int, int) { return true; }};
+}
+
+/// Draws the pages; false when it was stopped. `asTheyAre` keeps drawn pictures without the losses of a
+/// second compression.
+bool drawPages(const Content& content, PictureSource& pictures, bool asTheyAre, QIODevice& target) {
+  if (content.pages.empty()) fail(QStringLiteral("报表没有页面"));
   QPdfWriter writer(&target);
-  setUp(writer, document);
+  setUp(writer, content.document);
   QPainter painter;
   if (!painter.begin(&writer)) fail(QStringLiteral("不能开始绘制"));
   painter.setRenderHint(QPainter::LosslessImageRendering, asTheyAre);
-  for (int page = 0; page < document.pageCount(); ++page) {
-    if (page > 0 && !writer.newPage()) fail(QStringLiteral("不能开始第 %1 页").arg(page + 1));
-    paintPage(painter, document, page, pictures);
+  const int total = static_cast<int>(content.pages.size());
+  for (int done = 0; done < total; ++done) {
+    if (!content.progress(done, total)) return false;
+    if (done > 0 && !writer.newPage()) fail(QStringLiteral("不能开始第 %1 页").arg(done + 1));
+    paintPage(painter, content.document, content.pages[done], pictures);
   }
   if (!painter.end()) fail(QStringLiteral("不能结束绘制"));
+  return content.progress(total, total);
 }
 
-QByteArray drawnPdf(const Document& document, PictureSource& pictures, bool asTheyAre) {
+/// Nothing when it was stopped.
+std::optional<QByteArray> drawnPdf(const Content& content, PictureSource& pictures, bool asTheyAre) {
   QBuffer buffer;
   buffer.open(QIODevice::WriteOnly);
-  drawPages(document, pictures, asTheyAre, buffer);
+  if (!drawPages(content, pictures, asTheyAre, buffer)) return std::nullopt;
   return buffer.data();
 }
 
-void makePdf(const Document& document, PhotoEncoding photos, QIODevice& target) {
+/// Whether it was all made.
+bool makePdf(const Content& content, PhotoEncoding photos, QIODevice& target) {
   if (photos == PhotoEncoding::OwnBytes) {
     PlaceholderSource placeholders;
-    if (replacePlaceholders(drawnPdf(document, placeholders, true), placeholders.photos(), target)) return;
+    const std::optional<QByteArray> drawn = drawnPdf(content, placeholders, true);
+    if (!drawn) return false;
+    if (replacePlaceholders(*drawn, placeholders.photos(), target)) return true;
   }
   DecodingPictureSource pictures;
-  const QByteArray pdf = drawnPdf(document, pictures, false);
-  if (target.write(pdf) != pdf.size()) fail(runtime::systemWords(target.errorString()));
+  const std::optional<QByteArray> pdf = drawnPdf(content, pictures, false);
+  if (!pdf) return false;
+  if (target.write(*pdf) != pdf->size()) fail(runtime::systemWords(target.errorString()));
+  return true;
 }
 
 }  // namespace
@@ -67,14 +93,19 @@ void makePdf(const Document& document, PhotoEncoding photos, QIODevice& target) 
 QByteArray toPdf(const Document& document, PhotoEncoding photos) {
   QBuffer buffer;
   buffer.open(QIODevice::WriteOnly);
-  makePdf(document, photos, buffer);
+  std::ignore = makePdf(wholeOf(document), photos, buffer);
   return buffer.data();
 }
 
 void writePdf(const Document& document, const QString& path, PhotoEncoding photos) {
   runtime::ReplacingFile file(path);
-  makePdf(document, photos, file.device());
+  std::ignore = makePdf(wholeOf(document), photos, file.device());
   file.commit();
+}
+
+bool writePages(const Document& document, const std::vector<int>& pages, QIODevice& target,
+                const PageProgress& progress) {
+  return makePdf({document, pages, progress}, PhotoEncoding::OwnBytes, target);
 }
 
 }  // namespace report
