@@ -7,10 +7,10 @@
 #include "foundation/MainForm.h"
 #include "records/clsDept.h"
 #include "records/clsEmployeeSet.h"
-#include "ui/cards/CardPrinting.h"
 #include "ui/MainMenu.h"
 #include "ui/MainStatus.h"
 #include "ui/RecordList.h"
+#include "ui/cards/CardPrinting.h"
 
 /// The main window: the list of departments or of employees, and the menus from which all else is opened.
 ///

@@ -73,7 +73,7 @@ QRect CardFace::onScreen(const QRect& box) const {
           pixels(box.height())};
 }
 
-QPixmap CardFace::background(report::Section sample) const {
+QPixmap CardFace::background(const report::Section& sample) const {
   QPixmap pixmap(size() * devicePixelRatio());
   pixmap.setDevicePixelRatio(devicePixelRatio());
   pixmap.fill(Qt::white);

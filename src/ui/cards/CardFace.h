@@ -21,7 +21,7 @@ class CardFace : public QWidget {
  private:
   /// The place on the screen of a box of the card, twips.
   [[nodiscard]] QRect onScreen(const QRect& box) const;
-  [[nodiscard]] QPixmap background(report::Section sample) const;
+  [[nodiscard]] QPixmap background(const report::Section& sample) const;
 
   QLabel* imgCard;
   QLabel* imgLogo;
