@@ -62,7 +62,7 @@ CardFace::CardFace() : imgCard(new QLabel(this)), imgLogo(new QLabel(this)) {
   imgLogo->setGeometry(onScreen(sample.control(QStringLiteral("logPic")).rect()));
   lblUnit->setGeometry(onScreen(lblUnit->label().rect()));
   lblMemo->setGeometry(onScreen(lblMemo->label().rect()));
-  imgCard->setPixmap(background(std::move(sample)));
+  imgCard->setPixmap(background(sample));
 }
 
 QRect CardFace::onScreen(const QRect& box) const {
