@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Makes the pictures of the documents anew from the demo home that scripts/run.sh made.
+# Makes the documents' picture of the main window anew from the demo home that scripts/run.sh made.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
